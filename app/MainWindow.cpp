@@ -1,0 +1,305 @@
+#include "MainWindow.h"
+
+#include "GraphicsView.h"
+#include "TabMenuSet.h"
+#include "gui/AssoOpenGLScene.h"
+#include "gui/PentagonOpenGLScene.h"
+#include "gui/SineOpenGLScene.h"
+#include "ui_MainWindow.h"
+
+#include <QCloseEvent>
+#include <QOpenGLWidget>
+#include <QResizeEvent>
+#include <QSurfaceFormat>
+
+namespace
+{
+
+// The content size the pages are laid out for before the window is first shown.
+constexpr int kInitialContentWidth = 800;
+constexpr int kInitialContentHeight = 570;
+// The part of the window's height that the menu bar takes.
+constexpr int kMenuBarAllowance = 30;
+
+QSurfaceFormat plotSurfaceFormat()
+{
+    QSurfaceFormat format;
+    format.setDepthBufferSize(24);
+    format.setSwapBehavior(QSurfaceFormat::DoubleBuffer);
+    // The scenes draw with the fixed-function pipeline, which a core profile rejects.
+    format.setProfile(QSurfaceFormat::CompatibilityProfile);
+    return format;
+}
+
+} // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent), ui(std::make_unique<Ui::MainWindowClass>())
+{
+    ui->setupUi(this);
+    setWindowTitle(QStringLiteral("Quillon"));
+    ui->tabWidget->setFont(QFont(QStringLiteral("Arial")));
+
+    pentagonScene = new PentagonOpenGLScene(this);
+    pentagonView = attachPlotView(ui->pentagon_VisWindow, pentagonScene);
+    assoScene = new AssoOpenGLScene(this);
+    assoView = attachPlotView(ui->associativelaw_VisWindow, assoScene);
+    sineScene = new SineOpenGLScene(this);
+    sineView = attachPlotView(ui->sine_VisWindow, sineScene);
+
+    buildMenus();
+    connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MainWindow::tab_Index_Changed);
+    tab_Index_Changed(RootsTab);
+    layOutPages(kInitialContentWidth, kInitialContentHeight);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::buildMenus()
+{
+    for (int tab = 0; tab < TabCount; ++tab) {
+        menuSets[tab] = std::make_unique<TabMenuSet>(menuTable(static_cast<TabIndex>(tab)), this);
+        for (QMenu* menu : menuSets[tab]->menus()) {
+            for (QAction* action : menu->actions()) {
+                action->setEnabled(false);
+            }
+        }
+    }
+    enableActionFor(kExitSlot);
+}
+
+// Enables the entry of `slot` in every tab that has one (each tab has its own "&Exit").
+void MainWindow::enableActionFor(const char* slot)
+{
+    for (const auto& menuSet : menuSets) {
+        if (QAction* action = menuSet->actionForSlot(slot)) {
+            action->setEnabled(true);
+        }
+    }
+}
+
+void MainWindow::installAuxiliaryWindow(AuxWindow window, QWidget* widget)
+{
+    auxiliaryWindows.install(window, widget);
+    enableActionFor(popSlotOf(window));
+}
+
+void MainWindow::setFileRoutine(FileAction action, FileRoutine routine)
+{
+    fileActions.setRoutine(action, std::move(routine));
+    enableActionFor(fileDialogSpec(action).slot);
+}
+
+GraphicsView* MainWindow::attachPlotView(QWidget* placeholder, QGraphicsScene* scene)
+{
+    auto* view = new GraphicsView();
+    auto* viewport = new QOpenGLWidget();
+    viewport->setFormat(plotSurfaceFormat());
+    // Keeps the last frame in the widget's framebuffer, so it can be grabbed as drawn.
+    viewport->setUpdateBehavior(QOpenGLWidget::PartialUpdate);
+    view->setViewport(viewport);
+    view->setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
+    view->setScene(scene);
+    view->setParent(placeholder);
+    view->setGeometry(placeholder->rect());
+    view->setAttribute(Qt::WA_MouseTracking);
+    view->setRenderHints(QPainter::Antialiasing);
+    return view;
+}
+
+std::array<quillon::OpenGLPlotScene*, TabCount> MainWindow::plotScenesByTab() const
+{
+    return {nullptr, pentagonScene, assoScene, sineScene};
+}
+
+void MainWindow::tab_Index_Changed(int index)
+{
+    if (index < 0 || index >= TabCount) {
+        return;
+    }
+    menuSets[index]->installInto(menuBar());
+    const auto scenes = plotScenesByTab();
+    for (int tab = 0; tab < TabCount; ++tab) {
+        if (tab != index && scenes[tab] != nullptr) {
+            scenes[tab]->setPaused(true);
+            scenes[tab]->repaint();
+        }
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event)
+{
+    auxiliaryWindows.closeAll();
+    event->accept();
+}
+
+void MainWindow::closeEvent()
+{
+    close();
+    auxiliaryWindows.closeAll();
+}
+
+void MainWindow::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    layOutPages(event->size().width(), event->size().height() - kMenuBarAllowance);
+}
+
+// Lays out every page, hidden ones included, so that a tab looks right the moment it is
+// chosen.
+void MainWindow::layOutPages(int width, int height)
+{
+    layOutRootsPage(width, height);
+    layOutPlotPage(ui->pentagon_VisWindow, ui->pentagon_ControlWindow, pentagonView, width, height);
+    layOutPlotPage(ui->associativelaw_VisWindow, ui->associativelaw_ControlWindow, assoView, width,
+                   height);
+    layOutPlotPage(ui->sine_VisWindow, ui->sine_ControlWindow, sineView, width, height);
+}
+
+void MainWindow::layOutRootsPage(int width, int height)
+{
+    const int margin = width / 50;
+    const int innerWidth = width - 2 * margin;
+    ui->roots_title->setGeometry(margin, height / 100, innerWidth, height * 8 / 100);
+    ui->roots_inputGroup->setGeometry(margin, height * 10 / 100, innerWidth, height * 18 / 100);
+    ui->roots_outputGroup->setGeometry(margin, height * 30 / 100, innerWidth, height * 64 / 100);
+}
+
+// The plot takes the left three quarters of the page, the control panel the rest.
+void MainWindow::layOutPlotPage(QWidget* placeholder, QWidget* panel, GraphicsView* view, int width,
+                                int height)
+{
+    const int gap = 6;
+    const int plotWidth = width * 3 / 4;
+    const int pageHeight = height - 36;
+    placeholder->setGeometry(0, 0, plotWidth, pageHeight);
+    view->setGeometry(placeholder->rect());
+    panel->setGeometry(plotWidth + gap, 0, width - plotWidth - 2 * gap - 4, pageHeight);
+}
+
+void MainWindow::roots_useExample1() {}
+void MainWindow::roots_useExample2() {}
+void MainWindow::roots_useExample3() {}
+void MainWindow::roots_saveTXTFile()
+{
+    fileActions.run(FileAction::RootsSaveTxt, this);
+}
+void MainWindow::roots_popHelpWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::RootsHelp);
+}
+void MainWindow::roots_popUserMenu()
+{
+    auxiliaryWindows.pop(AuxWindow::RootsUserMenu);
+}
+
+void MainWindow::pentagon_openFile()
+{
+    fileActions.run(FileAction::PentagonOpen, this);
+}
+void MainWindow::pentagon_saveFile()
+{
+    fileActions.run(FileAction::PentagonSave, this);
+}
+void MainWindow::pentagon_popColorMapWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::PentagonColorMap);
+}
+void MainWindow::pentagon_popMiniMapWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::PentagonMiniMap);
+}
+void MainWindow::pentagon_popSettingWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::PentagonFocus);
+}
+void MainWindow::pentagon_popHelpWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::PentagonHelp);
+}
+void MainWindow::pentagon_popUserMenu()
+{
+    auxiliaryWindows.pop(AuxWindow::PentagonUserMenu);
+}
+void MainWindow::pentagon_saveTXTFile()
+{
+    fileActions.run(FileAction::PentagonSaveTxt, this);
+}
+
+void MainWindow::asso_openFile()
+{
+    fileActions.run(FileAction::AssoOpen, this);
+}
+void MainWindow::asso_saveFile()
+{
+    fileActions.run(FileAction::AssoSave, this);
+}
+void MainWindow::asso_popSettingWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::AssoFocus);
+}
+void MainWindow::asso_popSelectionWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::AssoSelection);
+}
+void MainWindow::asso_popColorMapWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::AssoColorMap);
+}
+void MainWindow::asso_popHelpWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::AssoHelp);
+}
+void MainWindow::asso_popUserMenu()
+{
+    auxiliaryWindows.pop(AuxWindow::AssoUserMenu);
+}
+void MainWindow::asso_saveTXTFile()
+{
+    fileActions.run(FileAction::AssoSaveTxt, this);
+}
+void MainWindow::asso_saveCSVFile()
+{
+    fileActions.run(FileAction::AssoSaveCsv, this);
+}
+
+void MainWindow::sine_openFile()
+{
+    fileActions.run(FileAction::SineOpen, this);
+}
+void MainWindow::sine_saveFile()
+{
+    fileActions.run(FileAction::SineSave, this);
+}
+void MainWindow::sine_popSettingWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::SineFocus);
+}
+void MainWindow::sine_popSelectionWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::SineSelection);
+}
+void MainWindow::sine_popStatusWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::SineStatus);
+}
+void MainWindow::sine_popColorMapWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::SineColorMap);
+}
+void MainWindow::sine_popHelpWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::SineHelp);
+}
+void MainWindow::sine_popUserMenu()
+{
+    auxiliaryWindows.pop(AuxWindow::SineUserMenu);
+}
+void MainWindow::sine_saveTXTFile()
+{
+    fileActions.run(FileAction::SineSaveTxt, this);
+}
+void MainWindow::sine_saveCSVFile()
+{
+    fileActions.run(FileAction::SineSaveCsv, this);
+}

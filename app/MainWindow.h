@@ -1,0 +1,109 @@
+#pragma once
+
+#include "AuxiliaryWindowSet.h"
+#include "MenuTable.h"
+#include "ModuleFileActions.h"
+
+#include <QMainWindow>
+#include <array>
+#include <memory>
+
+class AssoOpenGLScene;
+class GraphicsView;
+class PentagonOpenGLScene;
+class SineOpenGLScene;
+class TabMenuSet;
+class QGraphicsScene;
+
+namespace quillon
+{
+class OpenGLPlotScene;
+}
+
+namespace Ui
+{
+class MainWindowClass;
+}
+
+// The program's one top-level window: a tab per demonstration, the menu bar of the current
+// tab, and ownership of every module object and auxiliary window. Modules plug in through
+// installAuxiliaryWindow() and setFileRoutine(); until something is installed behind a menu
+// entry, that entry stays disabled.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(QWidget* parent = nullptr);
+    ~MainWindow() override;
+
+    // Takes ownership of `widget` as the given auxiliary window and enables its menu entry.
+    void installAuxiliaryWindow(AuxWindow window, QWidget* widget);
+
+    // Makes `routine` receive the names chosen for the file action and enables its entry.
+    void setFileRoutine(FileAction action, FileRoutine routine);
+
+public slots:
+    void roots_useExample1();
+    void roots_useExample2();
+    void roots_useExample3();
+    void roots_saveTXTFile();
+    void roots_popHelpWindow();
+    void roots_popUserMenu();
+    void pentagon_openFile();
+    void pentagon_saveFile();
+    void pentagon_popColorMapWindow();
+    void pentagon_popMiniMapWindow();
+    void pentagon_popSettingWindow();
+    void pentagon_popHelpWindow();
+    void pentagon_popUserMenu();
+    void pentagon_saveTXTFile();
+    void asso_openFile();
+    void asso_saveFile();
+    void asso_popSettingWindow();
+    void asso_popSelectionWindow();
+    void asso_popColorMapWindow();
+    void asso_popHelpWindow();
+    void asso_popUserMenu();
+    void asso_saveTXTFile();
+    void asso_saveCSVFile();
+    void sine_openFile();
+    void sine_saveFile();
+    void sine_popSettingWindow();
+    void sine_popSelectionWindow();
+    void sine_popStatusWindow();
+    void sine_popColorMapWindow();
+    void sine_popHelpWindow();
+    void sine_popUserMenu();
+    void sine_saveTXTFile();
+    void sine_saveCSVFile();
+    void tab_Index_Changed(int index);
+    // The target of every "&Exit" entry: closes this window and every auxiliary window.
+    void closeEvent();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void buildMenus();
+    void enableActionFor(const char* slot);
+    GraphicsView* attachPlotView(QWidget* placeholder, QGraphicsScene* scene);
+    void layOutPages(int width, int height);
+    void layOutRootsPage(int width, int height);
+    static void layOutPlotPage(QWidget* placeholder, QWidget* panel, GraphicsView* view, int width,
+                               int height);
+    std::array<quillon::OpenGLPlotScene*, TabCount> plotScenesByTab() const;
+
+    std::unique_ptr<Ui::MainWindowClass> ui;
+    AuxiliaryWindowSet auxiliaryWindows;
+    ModuleFileActions fileActions;
+    std::array<std::unique_ptr<TabMenuSet>, TabCount> menuSets;
+
+    PentagonOpenGLScene* pentagonScene = nullptr;
+    GraphicsView* pentagonView = nullptr;
+    AssoOpenGLScene* assoScene = nullptr;
+    GraphicsView* assoView = nullptr;
+    SineOpenGLScene* sineScene = nullptr;
+    GraphicsView* sineView = nullptr;
+};

@@ -1,0 +1,123 @@
+#include "MenuTable.h"
+
+#include <QObject>
+
+const char* const kExitSlot = SLOT(closeEvent());
+
+namespace
+{
+
+constexpr QKeySequence::StandardKey NoKey = QKeySequence::UnknownKey;
+
+MenuEntry separator(const char* menu)
+{
+    return {menu, nullptr, nullptr, NoKey, nullptr};
+}
+
+MenuEntry exitEntry()
+{
+    return {"&File", "&Exit", "Exit", NoKey, kExitSlot};
+}
+
+std::vector<MenuEntry> rootsMenus()
+{
+    return {
+        {"&File", "&Save data to a txt file ...", "Save data to a txt file", NoKey,
+         SLOT(roots_saveTXTFile())},
+        separator("&File"),
+        exitEntry(),
+        {"&Examples", "&Example 1: regular example", "Use example 1 for demonstration.", NoKey,
+         SLOT(roots_useExample1())},
+        {"&Examples", "&Example 2: b^2 >> 4ac", "Use example 2 for demonstration.", NoKey,
+         SLOT(roots_useExample2())},
+        {"&Examples", "&Example 3: b^2 ~ 4ac", "Use example 3 for demonstration.", NoKey,
+         SLOT(roots_useExample3())},
+        {"&Help", "&About ...", "Show Help", NoKey, SLOT(roots_popHelpWindow())},
+        {"&Help", "&Help ...", "Show Help", NoKey, SLOT(roots_popUserMenu())},
+    };
+}
+
+std::vector<MenuEntry> pentagonMenus()
+{
+    return {
+        {"&File", "&Open a configuration file ...", "Open a fonfigure file", QKeySequence::Open,
+         SLOT(pentagon_openFile())},
+        {"&File", "&Save to a configuration file ...", "Save to a configuration file ...",
+         QKeySequence::Save, SLOT(pentagon_saveFile())},
+        {"&File", "&Save data to a txt file ...", "Save data to a txt file", NoKey,
+         SLOT(pentagon_saveTXTFile())},
+        separator("&File"),
+        exitEntry(),
+        separator("&Tools"),
+        {"&Tools", "&Focus regions ...", "Focus on a particular region", NoKey,
+         SLOT(pentagon_popSettingWindow())},
+        separator("&Tools"),
+        {"&Tools", "&Selections ...", "Select operation history", NoKey,
+         SLOT(pentagon_popMiniMapWindow())},
+        separator("&Tools"),
+        {"&Tools", "&Color map ...", "Show color map", NoKey, SLOT(pentagon_popColorMapWindow())},
+        {"&Help", "&About ...", "Show Help", NoKey, SLOT(pentagon_popHelpWindow())},
+        {"&Help", "&Help ...", "Show Help", NoKey, SLOT(pentagon_popUserMenu())},
+    };
+}
+
+std::vector<MenuEntry> assoMenus()
+{
+    return {
+        {"&File", "&Open a configuration file ...", "Open a configuration file", QKeySequence::Open,
+         SLOT(asso_openFile())},
+        {"&File", "&Save to a configuration file ...", "Save to a configuration file",
+         QKeySequence::Save, SLOT(asso_saveFile())},
+        separator("&File"),
+        {"&File", "&Save data to a txt file ...", "Save data to a txt file", NoKey,
+         SLOT(asso_saveTXTFile())},
+        {"&File", "&Save data to a csv file ...", "Save data to a CSV file", NoKey,
+         SLOT(asso_saveCSVFile())},
+        separator("&File"),
+        exitEntry(),
+        {"&Tools", "&Region focus ...", "Choose focus region", NoKey,
+         SLOT(asso_popSettingWindow())},
+        separator("&Tools"),
+        {"&Tools", "&Selections ...", "Select methods", NoKey, SLOT(asso_popSelectionWindow())},
+        separator("&Tools"),
+        {"&Tools", "&Color map ...", "Show color map", NoKey, SLOT(asso_popColorMapWindow())},
+        {"&Help", "&About ...", "Show Help", NoKey, SLOT(asso_popHelpWindow())},
+        {"&Help", "&Help ...", "Show Help", NoKey, SLOT(asso_popUserMenu())},
+    };
+}
+
+std::vector<MenuEntry> sineMenus()
+{
+    return {
+        {"&File", "&Open a configuration file ...", "Open a configuration file ...",
+         QKeySequence::Open, SLOT(sine_openFile())},
+        {"&File", "&Save to a configuration file ...", "Save to a configuration file ...",
+         QKeySequence::Save, SLOT(sine_saveFile())},
+        separator("&File"),
+        {"&File", "&Save data to a txt file ...", "Save data to a txt file", NoKey,
+         SLOT(sine_saveTXTFile())},
+        {"&File", "&Save data to a CSV file ...", "Save data to a CSV file", NoKey,
+         SLOT(sine_saveCSVFile())},
+        separator("&File"),
+        exitEntry(),
+        {"&Tools", "&Region focus ...", "Choose focus region", NoKey,
+         SLOT(sine_popSettingWindow())},
+        separator("&Tools"),
+        {"&Tools", "&Selections ...", "Select methods", NoKey, SLOT(sine_popSelectionWindow())},
+        separator("&Tools"),
+        {"&Tools", "&Status ...", "Method status", NoKey, SLOT(sine_popStatusWindow())},
+        separator("&Tools"),
+        {"&Tools", "&Color map ...", "Show color map", NoKey, SLOT(sine_popColorMapWindow())},
+        {"&Help", "&About ...", "Show Help", NoKey, SLOT(sine_popHelpWindow())},
+        {"&Help", "&Help ...", "Show Help", NoKey, SLOT(sine_popUserMenu())},
+    };
+}
+
+} // namespace
+
+const std::vector<MenuEntry>& menuTable(TabIndex tab)
+{
+    static const std::vector<MenuEntry> tables[TabCount] = {rootsMenus(), pentagonMenus(),
+                                                            assoMenus(), sineMenus()};
+    return tables[tab];
+}

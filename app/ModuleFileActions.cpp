@@ -1,0 +1,75 @@
+#include "ModuleFileActions.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QObject>
+
+namespace
+{
+
+constexpr const char* kOpenTitle = "Open Document";
+constexpr const char* kSaveTitle = "Save Document";
+constexpr const char* kConfFilter = "Document files (*.conf);;All files (*.*)";
+constexpr const char* kSaveConfFilter = "Documents (*.conf)";
+constexpr const char* kTxtFilter = "Documents (*.txt)";
+constexpr const char* kCsvFilter = "Documents (*.csv)";
+
+const FileDialogSpec kSpecs[] = {
+    {false, kSaveTitle, kTxtFilter, SLOT(roots_saveTXTFile())},
+    {true, kOpenTitle, kConfFilter, SLOT(pentagon_openFile())},
+    {false, kSaveTitle, kSaveConfFilter, SLOT(pentagon_saveFile())},
+    {false, kSaveTitle, kTxtFilter, SLOT(pentagon_saveTXTFile())},
+    {true, kOpenTitle, kConfFilter, SLOT(asso_openFile())},
+    {false, kSaveTitle, kSaveConfFilter, SLOT(asso_saveFile())},
+    {false, kSaveTitle, kTxtFilter, SLOT(asso_saveTXTFile())},
+    {false, kSaveTitle, kCsvFilter, SLOT(asso_saveCSVFile())},
+    {true, kOpenTitle, kConfFilter, SLOT(sine_openFile())},
+    {false, kSaveTitle, kSaveConfFilter, SLOT(sine_saveFile())},
+    {false, kSaveTitle, kTxtFilter, SLOT(sine_saveTXTFile())},
+    {false, kSaveTitle, kCsvFilter, SLOT(sine_saveCSVFile())},
+};
+static_assert(std::size(kSpecs) == static_cast<size_t>(FileAction::Count));
+
+size_t indexOf(FileAction action)
+{
+    return static_cast<size_t>(action);
+}
+
+QString askFileName(QWidget* parent, const FileDialogSpec& spec)
+{
+    const QString title = QObject::tr(spec.title);
+    const QString filter = QObject::tr(spec.filter);
+    if (spec.opensFile) {
+        return QFileDialog::getOpenFileName(parent, title, QDir::currentPath(), filter);
+    }
+    return QFileDialog::getSaveFileName(parent, title, QDir::currentPath(), filter);
+}
+
+} // namespace
+
+const FileDialogSpec& fileDialogSpec(FileAction action)
+{
+    return kSpecs[indexOf(action)];
+}
+
+void ModuleFileActions::setRoutine(FileAction action, FileRoutine routine)
+{
+    routines[indexOf(action)] = std::move(routine);
+}
+
+bool ModuleFileActions::hasRoutine(FileAction action) const
+{
+    return static_cast<bool>(routines[indexOf(action)]);
+}
+
+void ModuleFileActions::run(FileAction action, QWidget* parent) const
+{
+    const FileRoutine& routine = routines[indexOf(action)];
+    if (!routine) {
+        return;
+    }
+    const QString fileName = askFileName(parent, fileDialogSpec(action));
+    if (!fileName.isEmpty()) {
+        routine(fileName);
+    }
+}

@@ -1,0 +1,36 @@
+# Helpers that register Quillon's test programs with CTest.
+
+set(QUILLON_XVFB_RUN xvfb-run -a -s "-screen 0 1280x1024x24")
+
+# quillon_add_engine_test(NAME SOURCES ... ENGINES ...)
+# One GoogleTest program per optimisation variant, each linked to that variant of the engines.
+function(quillon_add_engine_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;ENGINES" ${ARGN})
+    foreach(variant IN LISTS QUILLON_ENGINE_VARIANTS)
+        set(test_target ${name}_${variant})
+        add_executable(${test_target} ${ARG_SOURCES})
+        list(TRANSFORM ARG_ENGINES APPEND _${variant} OUTPUT_VARIABLE variant_engines)
+        target_link_libraries(${test_target} PRIVATE ${variant_engines} GTest::gtest_main)
+        target_compile_definitions(${test_target} PRIVATE
+            QUILLON_TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}/data")
+        quillon_target_defaults(${test_target})
+        target_compile_options(${test_target} PRIVATE ${QUILLON_VARIANT_FLAGS_${variant}})
+        add_test(NAME ${test_target} COMMAND ${test_target})
+    endforeach()
+endfunction()
+
+# quillon_add_gui_test(NAME SOURCES ... LINK ...)
+# A Qt Test program run in its own virtual X server with Mesa's software OpenGL, so that
+# the plot views really draw.
+function(quillon_add_gui_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE ${ARG_LINK} Qt6::Test)
+    target_compile_definitions(${name} PRIVATE
+        QUILLON_TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}/data")
+    quillon_target_defaults(${name})
+    add_test(NAME ${name} COMMAND ${QUILLON_XVFB_RUN} $<TARGET_FILE:${name}>)
+    set_tests_properties(${name} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1;LC_ALL=C.UTF-8"
+        TIMEOUT 120)
+endfunction()

@@ -1,0 +1,174 @@
+#include "GraphicsView.h"
+#include "MainWindow.h"
+#include "gui/GlPlotFrame.h"
+
+#include <GL/gl.h>
+#include <QOpenGLContext>
+#include <QOpenGLWidget>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QtTest>
+
+namespace
+{
+
+// Paints the left half of the plot red through the shared OpenGL frame, to show that a
+// scene's background pass really draws with OpenGL in the projection it asks for.
+class HalfRedScene : public QGraphicsScene
+{
+protected:
+    void drawBackground(QPainter* painter, const QRectF&) override
+    {
+        quillon::GlPlotFrame frame(painter);
+        frame.clearToWhite();
+        frame.lookAtOrthographic(-1.5, 1.5, -1.5, 1.5);
+        glColor3f(1.0f, 0.0f, 0.0f);
+        glBegin(GL_QUADS);
+        glVertex3f(-1.5f, -1.5f, 0.0f);
+        glVertex3f(0.0f, -1.5f, 0.0f);
+        glVertex3f(0.0f, 1.5f, 0.0f);
+        glVertex3f(-1.5f, 1.5f, 0.0f);
+        glEnd();
+    }
+};
+
+struct PlotTab {
+    int index;
+    const char* placeholder;
+};
+
+const PlotTab kPlotTabs[] = {
+    {1, "pentagon_VisWindow"}, {2, "associativelaw_VisWindow"}, {3, "sine_VisWindow"}};
+
+GraphicsView* viewIn(MainWindow& window, const char* placeholder)
+{
+    return window.findChild<QWidget*>(QString::fromLatin1(placeholder))->findChild<GraphicsView*>();
+}
+
+QImage grabPlot(GraphicsView* view)
+{
+    auto* viewport = qobject_cast<QOpenGLWidget*>(view->viewport());
+    return viewport->grabFramebuffer();
+}
+
+} // namespace
+
+class GraphicsViewTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void newViewIsTitledViewer();
+    void resizeWithoutSceneTouchesNoScene();
+    void resizeSetsSceneRectToTheNewSize();
+    void plotViewsHaveOpenGLViewportsAndNoScrollBars();
+    void eachPlotViewRendersItsWhiteBackgroundThroughOpenGL();
+    void backgroundPassDrawsWithOpenGLInTheRequestedBox();
+};
+
+void GraphicsViewTest::newViewIsTitledViewer()
+{
+    GraphicsView view;
+    QCOMPARE(view.windowTitle(), QStringLiteral("Viewer"));
+    QVERIFY(view.parent() == nullptr);
+}
+
+void GraphicsViewTest::resizeWithoutSceneTouchesNoScene()
+{
+    QGraphicsScene bystander;
+    bystander.setSceneRect(1, 2, 3, 4);
+    QSignalSpy changes(&bystander, &QGraphicsScene::sceneRectChanged);
+    GraphicsView view;
+    view.resize(321, 123);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    view.resize(400, 300);
+    QTRY_COMPARE(view.size(), QSize(400, 300));
+    QVERIFY(view.scene() == nullptr);
+    QCOMPARE(bystander.sceneRect(), QRectF(1, 2, 3, 4));
+    QCOMPARE(changes.count(), 0);
+}
+
+void GraphicsViewTest::resizeSetsSceneRectToTheNewSize()
+{
+    QGraphicsScene scene;
+    GraphicsView view;
+    view.setScene(&scene);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    for (const QSize size : {QSize(640, 480), QSize(333, 777), QSize(1, 1)}) {
+        view.resize(size);
+        QTRY_COMPARE(view.size(), size);
+        QCOMPARE(scene.sceneRect(), QRectF(0, 0, size.width(), size.height()));
+    }
+}
+
+void GraphicsViewTest::plotViewsHaveOpenGLViewportsAndNoScrollBars()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    for (const PlotTab& tab : kPlotTabs) {
+        window.findChild<QTabWidget*>(QStringLiteral("tabWidget"))->setCurrentIndex(tab.index);
+        GraphicsView* view = viewIn(window, tab.placeholder);
+        QVERIFY(view != nullptr);
+        QVERIFY(view->scene() != nullptr);
+        auto* viewport = qobject_cast<QOpenGLWidget*>(view->viewport());
+        QVERIFY2(viewport != nullptr, tab.placeholder);
+        QTRY_VERIFY(viewport->isValid());
+        QCOMPARE(viewport->format().profile(), QSurfaceFormat::CompatibilityProfile);
+        QVERIFY(viewport->format().depthBufferSize() > 0);
+        QCOMPARE(view->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+        QCOMPARE(view->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+        QVERIFY(!view->horizontalScrollBar()->isVisible());
+        QVERIFY(!view->verticalScrollBar()->isVisible());
+        QVERIFY(view->testAttribute(Qt::WA_MouseTracking));
+        QCOMPARE(view->viewportUpdateMode(), QGraphicsView::FullViewportUpdate);
+        QCOMPARE(view->viewport()->size(), view->size());
+    }
+}
+
+void GraphicsViewTest::eachPlotViewRendersItsWhiteBackgroundThroughOpenGL()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    for (const PlotTab& tab : kPlotTabs) {
+        window.findChild<QTabWidget*>(QStringLiteral("tabWidget"))->setCurrentIndex(tab.index);
+        GraphicsView* view = viewIn(window, tab.placeholder);
+        QVERIFY(QTest::qWaitForWindowExposed(view));
+        QImage frame;
+        QTRY_VERIFY((frame = grabPlot(view)).size() == view->viewport()->size());
+        const QImage rgb = frame.convertToFormat(QImage::Format_RGB32);
+        for (int y = 0; y < rgb.height(); y += 7) {
+            for (int x = 0; x < rgb.width(); x += 7) {
+                QCOMPARE(QColor(rgb.pixel(x, y)), QColor(Qt::white));
+            }
+        }
+    }
+}
+
+void GraphicsViewTest::backgroundPassDrawsWithOpenGLInTheRequestedBox()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.findChild<QTabWidget*>(QStringLiteral("tabWidget"))->setCurrentIndex(2);
+    GraphicsView* view = viewIn(window, "associativelaw_VisWindow");
+    HalfRedScene scene;
+    view->setScene(&scene);
+    scene.setSceneRect(QRectF(QPointF(0, 0), QSizeF(view->size())));
+    scene.update();
+    const int w = view->viewport()->width();
+    const int h = view->viewport()->height();
+    QTRY_COMPARE(QColor(grabPlot(view).pixel(w / 4, h / 2)), QColor(Qt::red));
+    const QImage frame = grabPlot(view);
+    QCOMPARE(QColor(frame.pixel(5, 5)), QColor(Qt::red));
+    QCOMPARE(QColor(frame.pixel(w * 3 / 4, h / 2)), QColor(Qt::white));
+    QCOMPARE(QColor(frame.pixel(w - 5, h - 5)), QColor(Qt::white));
+    view->setScene(nullptr);
+}
+
+QTEST_MAIN(GraphicsViewTest)
+#include "GraphicsViewTest.moc"

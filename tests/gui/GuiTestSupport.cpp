@@ -1,0 +1,48 @@
+#include "GuiTestSupport.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTimer>
+
+QAction* menuBarAction(QMainWindow& window, const QString& menuTitle, const QString& actionText)
+{
+    for (QAction* menuAction : window.menuBar()->actions()) {
+        QMenu* menu = menuAction->menu();
+        if (menu == nullptr || menu->title() != menuTitle) {
+            continue;
+        }
+        for (QAction* action : menu->actions()) {
+            if (action->text() == actionText) {
+                return action;
+            }
+        }
+    }
+    return nullptr;
+}
+
+void answerNextModalDialog(std::function<void(QWidget*)> answer)
+{
+    auto* poll = new QTimer();
+    poll->setInterval(20);
+    QObject::connect(poll, &QTimer::timeout, [poll, answer]() {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr || !dialog->isVisible()) {
+            return;
+        }
+        poll->stop();
+        poll->deleteLater();
+        // Let the dialog finish setting itself up (its folder model loads in the background)
+        // before answering, as a person would.
+        QTimer::singleShot(150, dialog, [dialog, answer]() {
+            answer(dialog);
+            // A failed check inside the answer must not leave the test waiting forever.
+            if (dialog->isVisible()) {
+                dialog->close();
+            }
+        });
+    });
+    poll->start();
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+class QAction;
+class QMainWindow;
+class QWidget;
+
+// The action titled `actionText` in the menu titled `menuTitle` of the window's menu bar as
+// it is now; null when there is none.
+QAction* menuBarAction(QMainWindow& window, const QString& menuTitle, const QString& actionText);
+
+// Answers the next modal dialog: shortly after one opens, `answer` is called with it and
+// should close it; a dialog still open afterwards is closed. Call before the action that
+// opens the dialog.
+void answerNextModalDialog(std::function<void(QWidget*)> answer);

@@ -1,0 +1,28 @@
+#include "ScreenshotTaker.h"
+
+#include "MainWindow.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QScreen>
+#include <QTest>
+#include <cstdio>
+
+ScreenshotTaker::ScreenshotTaker(QString outputFolder) : outputFolder(std::move(outputFolder)) {}
+
+bool ScreenshotTaker::take(MainWindow& window, const QString& fileName,
+                           const std::function<void(MainWindow&)>& arrange) const
+{
+    arrange(window);
+    // Long enough for every OpenGL view to finish its frames under software rendering.
+    QTest::qWait(700);
+    const QPixmap shot = window.screen()->grabWindow(window.winId());
+    const QString path = QDir(outputFolder).filePath(fileName);
+    if (shot.isNull() || !shot.save(path)) {
+        std::fprintf(stderr, "cannot save the screenshot %s\n", qPrintable(path));
+        return false;
+    }
+    std::printf("saved %s\n", qPrintable(path));
+    return true;
+}
