@@ -171,7 +171,7 @@ void MainWindow::layOutPlotPage(QWidget* placeholder, QWidget* panel, GraphicsVi
 {
     const int gap = 6;
     const int plotWidth = width * 3 / 4;
-    const int pageHeight = height - 36;
+    const int pageHeight = height - 44;
     placeholder->setGeometry(0, 0, plotWidth, pageHeight);
     view->setGeometry(placeholder->rect());
     panel->setGeometry(plotWidth + gap, 0, width - plotWidth - 2 * gap - 4, pageHeight);

@@ -1,10 +1,13 @@
 #include "MainWindow.h"
+#include "gui/ImageLookup.h"
 
 #include <QApplication>
+#include <QIcon>
 
 int main(int argc, char* argv[])
 {
     QApplication application(argc, argv);
+    QApplication::setWindowIcon(QIcon(quillon::imagePath(QStringLiteral("quillon.png"))));
     MainWindow window;
     window.show();
     return application.exec();
