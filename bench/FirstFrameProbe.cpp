@@ -7,9 +7,11 @@
 #include <QMetaObject>
 #include <cstdio>
 
-namespace {
+namespace
+{
 
-class FirstPaintWatcher : public QObject {
+class FirstPaintWatcher : public QObject
+{
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {

@@ -12,7 +12,8 @@
 
 extern char** environ;
 
-namespace {
+namespace
+{
 
 // Runs the probe once; returns the seconds until it reported its first frame, or a
 // negative number when it failed.

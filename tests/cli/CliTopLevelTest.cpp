@@ -2,7 +2,8 @@
 
 #include <gtest/gtest.h>
 
-namespace {
+namespace
+{
 
 // An error is exactly one line on standard error and nothing on standard output.
 void expectOneErrorLine(const CliRun& run, const QString& mentions)
