@@ -4,6 +4,9 @@
 #include "TabMenuSet.h"
 #include "gui/AssoOpenGLScene.h"
 #include "gui/PentagonOpenGLScene.h"
+#include "gui/RootsHelpWindow.h"
+#include "gui/RootsPage.h"
+#include "gui/RootsUserMenu.h"
 #include "gui/SineOpenGLScene.h"
 #include "ui_MainWindow.h"
 
@@ -39,6 +42,8 @@ MainWindow::MainWindow(QWidget* parent)
     ui->setupUi(this);
     setWindowTitle(QStringLiteral("Quillon"));
     ui->tabWidget->setFont(QFont(QStringLiteral("Arial")));
+    buildMenus();
+    setUpRootsTab();
 
     pentagonScene = new PentagonOpenGLScene(this);
     pentagonView = attachPlotView(ui->pentagon_VisWindow, pentagonScene);
@@ -47,7 +52,6 @@ MainWindow::MainWindow(QWidget* parent)
     sineScene = new SineOpenGLScene(this);
     sineView = attachPlotView(ui->sine_VisWindow, sineScene);
 
-    buildMenus();
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MainWindow::tab_Index_Changed);
     tab_Index_Changed(RootsTab);
     layOutPages(kInitialContentWidth, kInitialContentHeight);
@@ -75,6 +79,23 @@ void MainWindow::enableActionFor(const char* slot)
         if (QAction* action = menuSet->actionForSlot(slot)) {
             action->setEnabled(true);
         }
+    }
+}
+
+void MainWindow::setUpRootsTab()
+{
+    rootsPage = std::make_unique<RootsPage>(ui->roots_win);
+    installAuxiliaryWindow(AuxWindow::RootsHelp, new RootsHelpWindow(tr("About")));
+    installAuxiliaryWindow(AuxWindow::RootsUserMenu, new RootsUserMenu(tr("Help")));
+    connect(ui->roots_a_value, &QLineEdit::returnPressed, this, &MainWindow::roots_updateA);
+    connect(ui->roots_b_value, &QLineEdit::returnPressed, this, &MainWindow::roots_updateB);
+    connect(ui->roots_c_value, &QLineEdit::returnPressed, this, &MainWindow::roots_updateC);
+    connect(ui->roots_calculate, &QPushButton::clicked, this, &MainWindow::roots_calculate);
+    setFileRoutine(FileAction::RootsSaveTxt,
+                   [this](const QString& fileName) { return rootsPage->saveTextData(fileName); });
+    for (const char* slot :
+         {SLOT(roots_useExample1()), SLOT(roots_useExample2()), SLOT(roots_useExample3())}) {
+        enableActionFor(slot);
     }
 }
 
@@ -149,20 +170,11 @@ void MainWindow::resizeEvent(QResizeEvent* event)
 // chosen.
 void MainWindow::layOutPages(int width, int height)
 {
-    layOutRootsPage(width, height);
+    rootsPage->layOut(width, height);
     layOutPlotPage(ui->pentagon_VisWindow, ui->pentagon_ControlWindow, pentagonView, width, height);
     layOutPlotPage(ui->associativelaw_VisWindow, ui->associativelaw_ControlWindow, assoView, width,
                    height);
     layOutPlotPage(ui->sine_VisWindow, ui->sine_ControlWindow, sineView, width, height);
-}
-
-void MainWindow::layOutRootsPage(int width, int height)
-{
-    const int margin = width / 50;
-    const int innerWidth = width - 2 * margin;
-    ui->roots_title->setGeometry(margin, height / 100, innerWidth, height * 8 / 100);
-    ui->roots_inputGroup->setGeometry(margin, height * 10 / 100, innerWidth, height * 18 / 100);
-    ui->roots_outputGroup->setGeometry(margin, height * 30 / 100, innerWidth, height * 64 / 100);
 }
 
 // The plot takes the left three quarters of the page, the control panel the rest.
@@ -177,9 +189,34 @@ void MainWindow::layOutPlotPage(QWidget* placeholder, QWidget* panel, GraphicsVi
     panel->setGeometry(plotWidth + gap, 0, width - plotWidth - 2 * gap - 4, pageHeight);
 }
 
-void MainWindow::roots_useExample1() {}
-void MainWindow::roots_useExample2() {}
-void MainWindow::roots_useExample3() {}
+void MainWindow::roots_updateA()
+{
+    rootsPage->updateA();
+}
+void MainWindow::roots_updateB()
+{
+    rootsPage->updateB();
+}
+void MainWindow::roots_updateC()
+{
+    rootsPage->updateC();
+}
+void MainWindow::roots_calculate()
+{
+    rootsPage->calculate();
+}
+void MainWindow::roots_useExample1()
+{
+    rootsPage->useExample(1);
+}
+void MainWindow::roots_useExample2()
+{
+    rootsPage->useExample(2);
+}
+void MainWindow::roots_useExample3()
+{
+    rootsPage->useExample(3);
+}
 void MainWindow::roots_saveTXTFile()
 {
     fileActions.run(FileAction::RootsSaveTxt, this);

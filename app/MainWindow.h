@@ -9,6 +9,7 @@
 #include <memory>
 
 class AssoOpenGLScene;
+class RootsPage;
 class GraphicsView;
 class PentagonOpenGLScene;
 class SineOpenGLScene;
@@ -44,6 +45,10 @@ public:
     void setFileRoutine(FileAction action, FileRoutine routine);
 
 public slots:
+    void roots_updateA();
+    void roots_updateB();
+    void roots_updateC();
+    void roots_calculate();
     void roots_useExample1();
     void roots_useExample2();
     void roots_useExample3();
@@ -87,10 +92,10 @@ protected:
 
 private:
     void buildMenus();
+    void setUpRootsTab();
     void enableActionFor(const char* slot);
     GraphicsView* attachPlotView(QWidget* placeholder, QGraphicsScene* scene);
     void layOutPages(int width, int height);
-    void layOutRootsPage(int width, int height);
     static void layOutPlotPage(QWidget* placeholder, QWidget* panel, GraphicsView* view, int width,
                                int height);
     std::array<quillon::OpenGLPlotScene*, TabCount> plotScenesByTab() const;
@@ -100,6 +105,7 @@ private:
     ModuleFileActions fileActions;
     std::array<std::unique_ptr<TabMenuSet>, TabCount> menuSets;
 
+    std::unique_ptr<RootsPage> rootsPage;
     PentagonOpenGLScene* pentagonScene = nullptr;
     GraphicsView* pentagonView = nullptr;
     AssoOpenGLScene* assoScene = nullptr;

@@ -2,7 +2,9 @@
 
 #include <QDir>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QObject>
+#include <cstdio>
 
 namespace
 {
@@ -68,8 +70,18 @@ void ModuleFileActions::run(FileAction action, QWidget* parent) const
     if (!routine) {
         return;
     }
-    const QString fileName = askFileName(parent, fileDialogSpec(action));
-    if (!fileName.isEmpty()) {
-        routine(fileName);
+    const FileDialogSpec& spec = fileDialogSpec(action);
+    const QString fileName = askFileName(parent, spec);
+    if (fileName.isEmpty()) {
+        return;
     }
+    const QString error = routine(fileName);
+    if (error.isEmpty()) {
+        std::printf("%s file %s done\n", spec.opensFile ? "open" : "save",
+                    fileName.toLocal8Bit().constData());
+        std::fflush(stdout);
+        return;
+    }
+    std::fprintf(stderr, "%s\n", error.toLocal8Bit().constData());
+    QMessageBox::warning(parent, QObject::tr("Quillon"), error);
 }

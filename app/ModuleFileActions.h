@@ -23,8 +23,9 @@ enum class FileAction {
     Count
 };
 
-// A module routine that reads or writes the named file.
-using FileRoutine = std::function<void(const QString& fileName)>;
+// A module routine that reads or writes the named file. It returns a one-line reason when it
+// failed (and then changed nothing), or an empty text when it worked.
+using FileRoutine = std::function<QString(const QString& fileName)>;
 
 // How one file action asks for its name.
 struct FileDialogSpec {
@@ -45,7 +46,9 @@ public:
 
     // Asks for a file name with a standard dialog starting in the working directory. A
     // cancelled dialog does nothing; otherwise the name reaches the routine exactly as the
-    // dialog returned it (any characters, no extension added).
+    // dialog returned it (any characters, no extension added). Success is confirmed with an
+    // "open file ... done" or "save file ... done" line on standard output; a failure is
+    // shown in a message box and written to standard error.
     void run(FileAction action, QWidget* parent) const;
 
 private:

@@ -1,4 +1,5 @@
 #include "CliRunner.h"
+#include "RootsCommand.h"
 
 #include <QCoreApplication>
 
@@ -6,5 +7,6 @@ int main(int argc, char* argv[])
 {
     QCoreApplication application(argc, argv);
     CliRunner runner;
+    runner.addCommand(std::make_unique<RootsCommand>());
     return runner.run(QCoreApplication::arguments(), {stdout, stderr});
 }

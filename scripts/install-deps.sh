@@ -8,7 +8,7 @@ packages=(
     libgmp-dev libgl-dev libglu1-mesa-dev libgl1-mesa-dri
     libgtest-dev libbenchmark-dev
     xvfb xauth fonts-liberation fontconfig locales
-    clang-format
+    clang-format valgrind
 )
 
 missing=()

@@ -16,4 +16,7 @@ public:
 
 private:
     static QImage drawProgramIcon();
+    // A formula written in HTML (italics, superscripts) in a serif font of the given pixel
+    // size, on a transparent image just large enough to hold it.
+    static QImage drawFormula(const QString& html, int pixelSize);
 };

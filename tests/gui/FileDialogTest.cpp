@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -68,6 +69,7 @@ private slots:
     void dialogIsTheRightOneAndCancelCallsNothing();
     void chosenNameReachesTheRoutineIntact_data();
     void chosenNameReachesTheRoutineIntact();
+    void failureIsShownInAMessageBox();
 
 private:
     void addCaseRows();
@@ -118,7 +120,10 @@ void FileDialogTest::dialogIsTheRightOneAndCancelCallsNothing()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     QStringList received;
-    window.setFileRoutine(c.action, [&received](const QString& name) { received << name; });
+    window.setFileRoutine(c.action, [&received](const QString& name) {
+        received << name;
+        return QString();
+    });
     QAction* entry = entryFor(window, c.tab, c.entry);
     QVERIFY(entry != nullptr && entry->isEnabled());
 
@@ -169,7 +174,10 @@ void FileDialogTest::chosenNameReachesTheRoutineIntact()
         QVERIFY(existing.open(QIODevice::WriteOnly));
     }
     QStringList received;
-    window.setFileRoutine(c.action, [&received](const QString& n) { received << n; });
+    window.setFileRoutine(c.action, [&received](const QString& n) {
+        received << n;
+        return QString();
+    });
     answerNextModalDialog([&name](QWidget* widget) {
         auto* dialog = qobject_cast<QFileDialog*>(widget);
         QVERIFY(dialog != nullptr);
@@ -182,6 +190,33 @@ void FileDialogTest::chosenNameReachesTheRoutineIntact()
     });
     entryFor(window, c.tab, c.entry)->trigger();
     QCOMPARE(received, QStringList{name});
+}
+
+void FileDialogTest::failureIsShownInAMessageBox()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    window.setFileRoutine(FileAction::AssoSaveCsv, [](const QString& name) {
+        return QStringLiteral("cannot write \"%1\": No such file or directory").arg(name);
+    });
+    const QString name = QDir(folder->path()).filePath(QStringLiteral("out.csv"));
+    QString shown;
+    answerNextModalDialog([&name, &shown](QWidget* widget) {
+        auto* nameEdit = widget->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        QVERIFY(nameEdit != nullptr);
+        nameEdit->setText(QFileInfo(name).fileName());
+        // The message box opens while the file dialog's Enter is being handled.
+        answerNextModalDialog([&shown](QWidget* box) {
+            if (auto* message = qobject_cast<QMessageBox*>(box)) {
+                shown = message->text();
+            }
+            box->close();
+        });
+        QTest::keyClick(nameEdit, Qt::Key_Return);
+    });
+    entryFor(window, 2, "&Save data to a csv file ...")->trigger();
+    QTRY_COMPARE(shown, QStringLiteral("cannot write \"%1\": No such file or directory").arg(name));
 }
 
 QTEST_MAIN(FileDialogTest)

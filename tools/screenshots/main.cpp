@@ -32,10 +32,23 @@ int main(int argc, char* argv[])
         return 1;
     }
     const ScreenshotTaker taker(QString::fromLocal8Bit(argv[1]));
-    const bool ok = taker.take(window, QStringLiteral("main-window.png"), [](MainWindow& w) {
-        showTab(w, RootsTab);
-    }) && taker.take(window, QStringLiteral("associative-law-tab.png"), [](MainWindow& w) {
-        showTab(w, AssoTab);
-    });
-    return ok ? 0 : 1;
+    struct Scene {
+        const char* fileName;
+        std::function<void(MainWindow&)> arrange;
+    };
+    const Scene scenes[] = {
+        {"main-window.png", [](MainWindow& w) { showTab(w, RootsTab); }},
+        {"roots-example-2.png",
+         [](MainWindow& w) {
+             showTab(w, RootsTab);
+             w.roots_useExample2();
+         }},
+        {"associative-law-tab.png", [](MainWindow& w) { showTab(w, AssoTab); }},
+    };
+    for (const Scene& scene : scenes) {
+        if (!taker.take(window, QString::fromLatin1(scene.fileName), scene.arrange)) {
+            return 1;
+        }
+    }
+    return 0;
 }

@@ -1,0 +1,152 @@
+#include "RootsCommand.h"
+
+#include "core/SafeFileWriter.h"
+#include "engine/RootsFieldRule.h"
+#include "engine/RootsSolver.h"
+#include "engine/RootsTextExport.h"
+
+#include <QCommandLineParser>
+#include <optional>
+
+namespace
+{
+
+const char* const kRowNames[kRootsRowCount] = {"b^2",
+                                               "4ac",
+                                               "sqrt(b^2 - 4ac)",
+                                               "large root",
+                                               "a*x1^2 + b*x1 + c",
+                                               "small root",
+                                               "a*x2^2 + b*x2 + c"};
+
+const char* const kHelp =
+    "Usage: quillon-cli roots [--example 1|2|3] [--a TEXT] [--b TEXT] [--c TEXT] [--txt FILE]\n"
+    "Solves a x^2 + b x + c = 0 four ways, as the Roots tab does, starting from a = 1,\n"
+    "b = 1000, c = 1. --example takes an example as its menu entry does; then each given\n"
+    "coefficient is read as pressing Enter in its field does, in the order a, b, c.\n"
+    "\n"
+    "Options:\n"
+    "  --example N  1: regular example, 2: b^2 >> 4ac, 3: b^2 ~ 4ac.\n"
+    "  --a TEXT     a, a decimal number from 1e-11 to 1e8 with at most 9 decimals.\n"
+    "  --b TEXT     b, a decimal number from -1e8 to 1e8 with at most 9 decimals.\n"
+    "  --c TEXT     c, likewise.\n"
+    "  --txt FILE   Also write the text export to FILE.\n"
+    "  -h, --help   Show this help.\n"
+    "\n"
+    "Standard output: a header line, then one tab-separated line per grid row: the row's\n"
+    "name, the four cells as the grid shows them, and the row's agreement class.\n";
+
+struct Coefficient {
+    const char* option;
+    const RootsFieldRange& range;
+};
+
+const Coefficient kCoefficients[] = {
+    {"a", kRootsAField}, {"b", kRootsBCField}, {"c", kRootsBCField}};
+
+void printGrid(const RootsSolver& solver, std::FILE* out)
+{
+    std::fputs("quantity\tNaive Single P.\tCancellation Single P.\tNaive Double P.\t"
+               "Naive High P.\tagreement\n",
+               out);
+    const RootsGrid grid = solver.showResults();
+    const RootsAgreements agreements = solver.classifyRows();
+    for (int row = 0; row < kRootsRowCount; ++row) {
+        std::fputs(kRowNames[row], out);
+        for (const std::string& cell : grid[row]) {
+            std::fprintf(out, "\t%s", cell.c_str());
+        }
+        std::fprintf(out, "\t%d\n", agreements[row]);
+    }
+}
+
+} // namespace
+
+QString RootsCommand::name() const
+{
+    return QStringLiteral("roots");
+}
+
+QString RootsCommand::summary() const
+{
+    return QStringLiteral("the Roots tab: four ways to solve a quadratic equation");
+}
+
+int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) const
+{
+    QCommandLineParser parser;
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QString());
+    const QCommandLineOption example(QStringLiteral("example"), QString(), QStringLiteral("N"));
+    const QCommandLineOption txt(QStringLiteral("txt"), QString(), QStringLiteral("FILE"));
+    parser.addOption(help);
+    parser.addOption(example);
+    parser.addOption(txt);
+    for (const Coefficient& coefficient : kCoefficients) {
+        parser.addOption(QCommandLineOption(QString::fromLatin1(coefficient.option), QString(),
+                                            QStringLiteral("TEXT")));
+    }
+    if (!parser.parse(QStringList{QStringLiteral("roots")} + arguments)) {
+        return usageError(streams, parser.errorText());
+    }
+    if (parser.isSet(help)) {
+        std::fputs(kHelp, streams.out);
+        return ExitSuccess;
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        return usageError(
+            streams,
+            QStringLiteral("unexpected argument '%1'").arg(parser.positionalArguments().first()));
+    }
+    std::optional<int> exampleNumber;
+    if (parser.isSet(example)) {
+        const QString value = parser.value(example);
+        if (value != QLatin1String("1") && value != QLatin1String("2") &&
+            value != QLatin1String("3")) {
+            return usageError(streams,
+                              QStringLiteral("--example must be 1, 2 or 3, not '%1'").arg(value));
+        }
+        exampleNumber = value.toInt();
+    }
+    for (const Coefficient& coefficient : kCoefficients) {
+        const QString option = QString::fromLatin1(coefficient.option);
+        if (parser.isSet(option) &&
+            !isAcceptableFieldText(parser.value(option).toStdString(), coefficient.range)) {
+            return usageError(streams,
+                              QStringLiteral("--%1 '%2' is not a number its field accepts (a "
+                                             "decimal from %3 to %4 with at most %5 decimals)")
+                                  .arg(option, parser.value(option))
+                                  .arg(coefficient.range.bottom)
+                                  .arg(coefficient.range.top)
+                                  .arg(coefficient.range.decimals));
+        }
+    }
+
+    RootsSolver solver(streams.err);
+    if (exampleNumber) {
+        solver.useExample(*exampleNumber);
+    }
+    if (parser.isSet(QStringLiteral("a"))) {
+        solver.readA(parser.value(QStringLiteral("a")).toStdString());
+        solver.recomputeAll();
+    }
+    if (parser.isSet(QStringLiteral("b"))) {
+        solver.readB(parser.value(QStringLiteral("b")).toStdString());
+        solver.recomputeAll();
+    }
+    if (parser.isSet(QStringLiteral("c"))) {
+        solver.readC(parser.value(QStringLiteral("c")).toStdString());
+        solver.recomputeAll();
+    }
+    printGrid(solver, streams.out);
+
+    if (parser.isSet(txt)) {
+        const std::string path = parser.value(txt).toStdString();
+        std::string error;
+        if (!quillon::writeFileAtomically(path, rootsTextExport(solver), error)) {
+            std::fprintf(streams.err, "quillon-cli roots: %s\n", error.c_str());
+            return ExitFileError;
+        }
+        std::fprintf(streams.err, "save file %s done\n", path.c_str());
+    }
+    return ExitSuccess;
+}

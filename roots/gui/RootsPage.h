@@ -1,0 +1,65 @@
+#pragma once
+
+#include "engine/RootsGrid.h"
+#include "engine/RootsSolver.h"
+
+#include <QString>
+#include <array>
+#include <cstdio>
+
+class QDoubleValidator;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QWidget;
+
+// Binds the Roots page of the main window's form to a RootsSolver: reads the a, b, c fields,
+// writes the grid's texts and colours, lays the page out, and saves the text export. The
+// widgets are found by their object names on the page.
+class RootsPage
+{
+public:
+    explicit RootsPage(QWidget* page, std::FILE* trace = stdout);
+    ~RootsPage();
+    RootsPage(const RootsPage&) = delete;
+    RootsPage& operator=(const RootsPage&) = delete;
+
+    const RootsSolver& solver() const { return rootsSolver; }
+
+    // Enter in a field: read that coefficient, recompute, show.
+    void updateA();
+    void updateB();
+    void updateC();
+    // The Calculate button: read a, b and c as they stand, recompute, show.
+    void calculate();
+    // An Examples entry (1..3): take the example, recompute, show, and write the
+    // single-precision copies of a, b, c back into the fields.
+    void useExample(int number);
+
+    // Writes the text export to `fileName`; returns why it failed, or an empty text.
+    QString saveTextData(const QString& fileName) const;
+
+    // Places the page's widgets proportionally in a content area of width x height.
+    void layOut(int width, int height);
+
+private:
+    void findWidgets();
+    void setUpInputs();
+    void stylePage();
+    void readA();
+    void showResults();
+    void highlightDifferences();
+    void writeBackSingleCopies();
+
+    QWidget* page;
+    RootsSolver rootsSolver;
+    QLineEdit* aValue = nullptr;
+    QLineEdit* bValue = nullptr;
+    QLineEdit* cValue = nullptr;
+    QDoubleValidator* aValidator = nullptr;
+    QDoubleValidator* bValidator = nullptr;
+    QDoubleValidator* cValidator = nullptr;
+    // [row + 1][column + 1]: row 0 holds the column headings, column 0 the row headings.
+    std::array<std::array<QLabel*, kRootsVariantCount + 1>, kRootsRowCount + 1> grid{};
+    std::array<QGroupBox*, kRootsRowCount + 1> rowGroups{};
+};
