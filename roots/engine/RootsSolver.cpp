@@ -75,13 +75,18 @@ void RootsSolver::recomputeAll()
     valid[3] = solveNaiveHigh();
 }
 
-bool RootsSolver::solveNaiveSingle()
+void RootsSolver::computeSingleSquares(float& b2Single, float& fourACSingle)
 {
     af = toSingle(a.toDouble());
     bf = toSingle(b.toDouble());
     cf = toSingle(c.toDouble());
-    b2.naive = bf * bf;
-    fourAC.naive = toSingle((double(af) * 4.0) * double(cf));
+    b2Single = bf * bf;
+    fourACSingle = toSingle((double(af) * 4.0) * double(cf));
+}
+
+bool RootsSolver::solveNaiveSingle()
+{
+    computeSingleSquares(b2.naive, fourAC.naive);
     if (!(fourAC.naive <= b2.naive)) {
         return false;
     }
@@ -98,11 +103,7 @@ bool RootsSolver::solveNaiveSingle()
 
 bool RootsSolver::solveCancellationSingle()
 {
-    af = toSingle(a.toDouble());
-    bf = toSingle(b.toDouble());
-    cf = toSingle(c.toDouble());
-    b2.cancel = bf * bf;
-    fourAC.cancel = toSingle((double(af) * 4.0) * double(cf));
+    computeSingleSquares(b2.cancel, fourAC.cancel);
     const double difference = double(b2.cancel) - double(fourAC.cancel);
     if (!(difference >= 0)) {
         return false;

@@ -54,6 +54,9 @@ public:
     float singleC() const { return cf; }
 
 private:
+    // The first steps of both single-precision variants: the single copies of a, b, c, then
+    // b^2 rounded to single and 4ac evaluated in double and rounded to single.
+    void computeSingleSquares(float& b2Single, float& fourACSingle);
     void readInto(HighFloat& coefficient, const std::string& text);
     std::string cellText(RootsRow row, int variant) const;
 

@@ -147,25 +147,19 @@ void RootsPage::readA()
 void RootsPage::updateA()
 {
     readA();
-    rootsSolver.recomputeAll();
-    showResults();
-    highlightDifferences();
+    recomputeAndShow();
 }
 
 void RootsPage::updateB()
 {
     rootsSolver.readB(bValue->text().toStdString());
-    rootsSolver.recomputeAll();
-    showResults();
-    highlightDifferences();
+    recomputeAndShow();
 }
 
 void RootsPage::updateC()
 {
     rootsSolver.readC(cValue->text().toStdString());
-    rootsSolver.recomputeAll();
-    showResults();
-    highlightDifferences();
+    recomputeAndShow();
 }
 
 void RootsPage::calculate()
@@ -173,6 +167,11 @@ void RootsPage::calculate()
     readA();
     rootsSolver.readB(bValue->text().toStdString());
     rootsSolver.readC(cValue->text().toStdString());
+    recomputeAndShow();
+}
+
+void RootsPage::recomputeAndShow()
+{
     rootsSolver.recomputeAll();
     showResults();
     highlightDifferences();

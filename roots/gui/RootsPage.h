@@ -47,6 +47,7 @@ private:
     void setUpInputs();
     void stylePage();
     void readA();
+    void recomputeAndShow();
     void showResults();
     void highlightDifferences();
     void writeBackSingleCopies();
