@@ -4,8 +4,9 @@
 
 TEST(RootsFieldRule, AcceptsPlainDecimalsInRange)
 {
-    for (const char* text : {"1", "1.000000", "0.01", ".5", "5.", "100000000", "0.00000001",
-                             "0.000000001", "+3", "007", "99999999.999999999"}) {
+    for (const char* text :
+         {"1", "1.000000", "0.01", ".5", "5.", "100000000", "0.00000001", "0.000000001", "+3",
+          "007", "99999999.999999999", "1,000", "12,345.5"}) {
         EXPECT_TRUE(isAcceptableFieldText(text, kRootsAField)) << text;
     }
     for (const char* text : {"-1", "-100000000", "0", "-0", "249999.99999", "-0.5"}) {

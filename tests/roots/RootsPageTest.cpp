@@ -439,7 +439,12 @@ void RootsPageTest::validatorsAgreeWithTheCommandLineRule()
                                 "99999999.999999999",
                                 "1..2",
                                 "abc",
-                                "--1"};
+                                "--1",
+                                "1,000",
+                                "12,345.25",
+                                "1,,000",
+                                "1000,000",
+                                "-1,000.5"};
     const struct {
         const char* field;
         RootsFieldRange range;
