@@ -1,7 +1,44 @@
 #include "CliCommand.h"
 
+#include "core/SafeFileWriter.h"
+
+#include <QCommandLineParser>
+
 int CliCommand::usageError(const CliStreams& streams, const QString& message) const
 {
     std::fprintf(streams.err, "quillon-cli %s: %s\n", qPrintable(name()), qPrintable(message));
     return ExitUsageError;
+}
+
+std::optional<int> CliCommand::parseArguments(QCommandLineParser& parser,
+                                              const QStringList& arguments,
+                                              const CliStreams& streams, const char* help) const
+{
+    const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")}, QString());
+    parser.addOption(helpOption);
+    if (!parser.parse(QStringList{name()} + arguments)) {
+        return usageError(streams, parser.errorText());
+    }
+    if (parser.isSet(helpOption)) {
+        std::fputs(help, streams.out);
+        return ExitSuccess;
+    }
+    if (!parser.positionalArguments().isEmpty()) {
+        return usageError(
+            streams,
+            QStringLiteral("unexpected argument '%1'").arg(parser.positionalArguments().first()));
+    }
+    return std::nullopt;
+}
+
+int CliCommand::writeExport(const CliStreams& streams, const QString& path,
+                            const std::string& contents) const
+{
+    std::string error;
+    if (!quillon::writeFileAtomically(path.toStdString(), contents, error)) {
+        std::fprintf(streams.err, "quillon-cli %s: %s\n", qPrintable(name()), error.c_str());
+        return ExitFileError;
+    }
+    std::fprintf(streams.err, "save file %s done\n", qPrintable(path));
+    return ExitSuccess;
 }

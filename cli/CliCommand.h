@@ -3,6 +3,10 @@
 #include <QString>
 #include <QStringList>
 #include <cstdio>
+#include <optional>
+#include <string>
+
+class QCommandLineParser;
 
 // Exit statuses of quillon-cli.
 enum CliExitCode { ExitSuccess = 0, ExitFileError = 1, ExitUsageError = 2 };
@@ -29,4 +33,15 @@ protected:
     // Writes "quillon-cli <name>: <message>" as one line on the error stream and returns
     // ExitUsageError, for the common "that input is not valid" exit.
     int usageError(const CliStreams& streams, const QString& message) const;
+
+    // Adds -h/--help to `parser` and parses `arguments`. Returns the exit status when the
+    // command is done already (help shown, or an unknown option or stray argument reported),
+    // nothing when it should go on.
+    std::optional<int> parseArguments(QCommandLineParser& parser, const QStringList& arguments,
+                                      const CliStreams& streams, const char* help) const;
+
+    // Writes an export file whole (or not at all) and confirms it on the error stream.
+    // Returns ExitSuccess, or ExitFileError after a one-line reason.
+    int writeExport(const CliStreams& streams, const QString& path,
+                    const std::string& contents) const;
 };

@@ -1,6 +1,5 @@
 #include "RootsCommand.h"
 
-#include "core/SafeFileWriter.h"
 #include "engine/RootsFieldRule.h"
 #include "engine/RootsSolver.h"
 #include "engine/RootsTextExport.h"
@@ -75,27 +74,16 @@ QString RootsCommand::summary() const
 int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) const
 {
     QCommandLineParser parser;
-    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")}, QString());
     const QCommandLineOption example(QStringLiteral("example"), QString(), QStringLiteral("N"));
     const QCommandLineOption txt(QStringLiteral("txt"), QString(), QStringLiteral("FILE"));
-    parser.addOption(help);
     parser.addOption(example);
     parser.addOption(txt);
     for (const Coefficient& coefficient : kCoefficients) {
         parser.addOption(QCommandLineOption(QString::fromLatin1(coefficient.option), QString(),
                                             QStringLiteral("TEXT")));
     }
-    if (!parser.parse(QStringList{QStringLiteral("roots")} + arguments)) {
-        return usageError(streams, parser.errorText());
-    }
-    if (parser.isSet(help)) {
-        std::fputs(kHelp, streams.out);
-        return ExitSuccess;
-    }
-    if (!parser.positionalArguments().isEmpty()) {
-        return usageError(
-            streams,
-            QStringLiteral("unexpected argument '%1'").arg(parser.positionalArguments().first()));
+    if (const auto done = parseArguments(parser, arguments, streams, kHelp)) {
+        return *done;
     }
     std::optional<int> exampleNumber;
     if (parser.isSet(example)) {
@@ -140,13 +128,7 @@ int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) c
     printGrid(solver, streams.out);
 
     if (parser.isSet(txt)) {
-        const std::string path = parser.value(txt).toStdString();
-        std::string error;
-        if (!quillon::writeFileAtomically(path, rootsTextExport(solver), error)) {
-            std::fprintf(streams.err, "quillon-cli roots: %s\n", error.c_str());
-            return ExitFileError;
-        }
-        std::fprintf(streams.err, "save file %s done\n", path.c_str());
+        return writeExport(streams, parser.value(txt), rootsTextExport(solver));
     }
     return ExitSuccess;
 }

@@ -1,3 +1,4 @@
+#include "AssocCommand.h"
 #include "CliRunner.h"
 #include "RootsCommand.h"
 
@@ -8,5 +9,6 @@ int main(int argc, char* argv[])
     QCoreApplication application(argc, argv);
     CliRunner runner;
     runner.addCommand(std::make_unique<RootsCommand>());
+    runner.addCommand(std::make_unique<AssocCommand>());
     return runner.run(QCoreApplication::arguments(), {stdout, stderr});
 }

@@ -1,0 +1,102 @@
+#include "AssocCommand.h"
+
+#include "core/FieldValidation.h"
+#include "engine/AssoFiles.h"
+#include "engine/AssoRecurrence.h"
+
+#include <QCommandLineParser>
+
+namespace
+{
+
+const char* const kHelp =
+    "Usage: quillon-cli assoc [--r R] [--x0 X0] [--n N] [--txt FILE] [--csv FILE]\n"
+    "Iterates X_n = (R + 1) X_{n-1} - R X_{n-1}^2 in five algebraically equal orders in single\n"
+    "precision, as the Associative Law tab does (defaults R = 3, X0 = 0.5, N = 300).\n"
+    "\n"
+    "Options:\n"
+    "  --r R       The growth rate, as its field takes it: a decimal with at most 2 digits\n"
+    "              after the point, typed within -99999.99..99999.99.\n"
+    "  --x0 X0     The initial value, likewise.\n"
+    "  --n N       The number of iterations, a whole number of at most 5 digits.\n"
+    "  --txt FILE  Write the text export to FILE.\n"
+    "  --csv FILE  Write the comma-separated export to FILE.\n"
+    "  -h, --help  Show this help.\n"
+    "\n"
+    "With neither --txt nor --csv the comma-separated export goes to standard output.\n"
+    "Text a field takes but cannot read as a number (such as \"-\") reads as 0, as in the tab.\n";
+
+// The panel's fields: R and X0 take decimals from -10000 to 10000 with 2 decimals, N whole
+// numbers from 1 to 10000; anything they let a user type is taken.
+bool typeableDecimal(const QString& text)
+{
+    return quillon::validateDecimalField(text.toStdString(), -10000.0, 10000.0, 2) !=
+           quillon::FieldState::Invalid;
+}
+
+bool typeableCount(const QString& text)
+{
+    return quillon::validateIntegerField(text.toStdString(), 1, 10000) !=
+           quillon::FieldState::Invalid;
+}
+
+} // namespace
+
+QString AssocCommand::name() const
+{
+    return QStringLiteral("assoc");
+}
+
+QString AssocCommand::summary() const
+{
+    return QStringLiteral("the Associative Law tab: one recurrence in five orders");
+}
+
+int AssocCommand::run(const QStringList& arguments, const CliStreams& streams) const
+{
+    QCommandLineParser parser;
+    const QCommandLineOption r(QStringLiteral("r"), QString(), QStringLiteral("R"));
+    const QCommandLineOption x0(QStringLiteral("x0"), QString(), QStringLiteral("X0"));
+    const QCommandLineOption n(QStringLiteral("n"), QString(), QStringLiteral("N"));
+    const QCommandLineOption txt(QStringLiteral("txt"), QString(), QStringLiteral("FILE"));
+    const QCommandLineOption csv(QStringLiteral("csv"), QString(), QStringLiteral("FILE"));
+    parser.addOptions({r, x0, n, txt, csv});
+    if (const auto done = parseArguments(parser, arguments, streams, kHelp)) {
+        return *done;
+    }
+    for (const QCommandLineOption& option : {r, x0}) {
+        const QString value = parser.value(option);
+        if (parser.isSet(option) && !typeableDecimal(value)) {
+            return usageError(streams, QStringLiteral("--%1 '%2' cannot be typed into its field "
+                                                      "(a decimal with at most 2 decimals)")
+                                           .arg(option.names().first(), value));
+        }
+    }
+    if (parser.isSet(n) && !typeableCount(parser.value(n))) {
+        return usageError(streams, QStringLiteral("--n '%1' cannot be typed into its field (a "
+                                                  "whole number of at most 5 digits)")
+                                       .arg(parser.value(n)));
+    }
+
+    // The fields' texts are read the way the tab reads them: unreadable text is 0.
+    const float growth = parser.isSet(r) ? parser.value(r).toFloat() : 3.0f;
+    const float start = parser.isSet(x0) ? parser.value(x0).toFloat() : 0.5f;
+    const int count = parser.isSet(n) ? parser.value(n).toInt() : 300;
+    AssoSequences sequences;
+    computeSequences(growth, start, count, sequences);
+
+    if (!parser.isSet(txt) && !parser.isSet(csv)) {
+        std::fputs(assoCsvExport(sequences, count).c_str(), streams.out);
+        return ExitSuccess;
+    }
+    if (parser.isSet(txt)) {
+        if (const int status = writeExport(streams, parser.value(txt), assoTextExport(sequences));
+            status != ExitSuccess) {
+            return status;
+        }
+    }
+    if (parser.isSet(csv)) {
+        return writeExport(streams, parser.value(csv), assoCsvExport(sequences, count));
+    }
+    return ExitSuccess;
+}
