@@ -2,7 +2,12 @@
 
 #include "GraphicsView.h"
 #include "TabMenuSet.h"
+#include "gui/AssoColorMap.h"
+#include "gui/AssoFocusWindow.h"
+#include "gui/AssoHelpWindow.h"
 #include "gui/AssoOpenGLScene.h"
+#include "gui/AssoSelectionWindow.h"
+#include "gui/AssoUserMenu.h"
 #include "gui/PentagonOpenGLScene.h"
 #include "gui/RootsHelpWindow.h"
 #include "gui/RootsPage.h"
@@ -14,6 +19,7 @@
 #include <QOpenGLWidget>
 #include <QResizeEvent>
 #include <QSurfaceFormat>
+#include <QTimer>
 
 namespace
 {
@@ -47,8 +53,7 @@ MainWindow::MainWindow(QWidget* parent)
 
     pentagonScene = new PentagonOpenGLScene(this);
     pentagonView = attachPlotView(ui->pentagon_VisWindow, pentagonScene);
-    assoScene = new AssoOpenGLScene(this);
-    assoView = attachPlotView(ui->associativelaw_VisWindow, assoScene);
+    setUpAssoTab();
     sineScene = new SineOpenGLScene(this);
     sineView = attachPlotView(ui->sine_VisWindow, sineScene);
 
@@ -97,6 +102,63 @@ void MainWindow::setUpRootsTab()
          {SLOT(roots_useExample1()), SLOT(roots_useExample2()), SLOT(roots_useExample3())}) {
         enableActionFor(slot);
     }
+}
+
+void MainWindow::setUpAssoTab()
+{
+    assoTimer = new QTimer(this);
+    assoScene = new AssoOpenGLScene(AssoPanel::find(ui->associativelaw_win, assoTimer), this);
+    connect(assoTimer, &QTimer::timeout, assoScene, &AssoOpenGLScene::runningMan);
+    auto* selection = new AssoSelectionWindow(assoScene);
+    auto* focus = new AssoFocusWindow(assoScene);
+    assoScene->setSelectionWindow(selection);
+    assoScene->setFocusWindow(focus);
+    installAuxiliaryWindow(AuxWindow::AssoColorMap, new AssoColorMap(assoScene));
+    installAuxiliaryWindow(AuxWindow::AssoSelection, selection);
+    installAuxiliaryWindow(AuxWindow::AssoHelp, new AssoHelpWindow(tr("About")));
+    installAuxiliaryWindow(AuxWindow::AssoUserMenu, new AssoUserMenu(tr("Help")));
+    installAuxiliaryWindow(AuxWindow::AssoFocus, focus);
+    assoView = attachPlotView(ui->associativelaw_VisWindow, assoScene);
+
+    AssoOpenGLScene* scene = assoScene;
+    connect(ui->associativelaw_iteration_input, &QLineEdit::returnPressed, scene,
+            &AssoOpenGLScene::updateMaxItera);
+    connect(ui->associativelaw_X_input, &QLineEdit::returnPressed, scene,
+            &AssoOpenGLScene::updateX);
+    connect(ui->associativelaw_R_input, &QLineEdit::returnPressed, scene,
+            &AssoOpenGLScene::updateR);
+    connect(ui->associativelaw_calculate, &QPushButton::clicked, scene,
+            &AssoOpenGLScene::calculate);
+    connect(ui->associativelaw_showXAxis, &QCheckBox::toggled, scene,
+            &AssoOpenGLScene::setNeedXAxis);
+    connect(ui->associativelaw_showYAxis, &QCheckBox::toggled, scene,
+            &AssoOpenGLScene::setNeedYAxis);
+    connect(ui->associativelaw_showXIndices, &QCheckBox::toggled, scene,
+            &AssoOpenGLScene::need2ShowXIndices);
+    connect(ui->associativelaw_showYIndices, &QCheckBox::toggled, scene,
+            &AssoOpenGLScene::need2ShowYIndices);
+    connect(ui->associativelaw_showLabels, &QCheckBox::toggled, scene,
+            &AssoOpenGLScene::need2ShowLabels);
+    connect(ui->associativelaw_acceleration, &QPushButton::clicked, scene,
+            &AssoOpenGLScene::accelerate);
+    connect(ui->associativelaw_deceleration, &QPushButton::clicked, scene,
+            &AssoOpenGLScene::decelerate);
+    connect(ui->associativelaw_pause, &QPushButton::clicked, scene, &AssoOpenGLScene::pause);
+    connect(ui->associativelaw_time_slider, &QSlider::valueChanged, scene,
+            &AssoOpenGLScene::setTimeStartpoint);
+    ui->associativelaw_showXIndices->setChecked(true);
+    ui->associativelaw_showLabels->setChecked(true);
+    scene->setUpPanel();
+
+    setFileRoutine(FileAction::AssoOpen,
+                   [scene](const QString& name) { return scene->loadColorFile(name); });
+    setFileRoutine(FileAction::AssoSave,
+                   [scene](const QString& name) { return scene->saveColorFile(name); });
+    setFileRoutine(FileAction::AssoSaveTxt,
+                   [scene](const QString& name) { return scene->saveTextData(name); });
+    setFileRoutine(FileAction::AssoSaveCsv,
+                   [scene](const QString& name) { return scene->saveCsvData(name); });
+    assoTimer->start(400);
 }
 
 void MainWindow::installAuxiliaryWindow(AuxWindow window, QWidget* widget)

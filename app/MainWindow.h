@@ -15,6 +15,7 @@ class PentagonOpenGLScene;
 class SineOpenGLScene;
 class TabMenuSet;
 class QGraphicsScene;
+class QTimer;
 
 namespace quillon
 {
@@ -93,6 +94,7 @@ protected:
 private:
     void buildMenus();
     void setUpRootsTab();
+    void setUpAssoTab();
     void enableActionFor(const char* slot);
     GraphicsView* attachPlotView(QWidget* placeholder, QGraphicsScene* scene);
     void layOutPages(int width, int height);
@@ -109,6 +111,7 @@ private:
     PentagonOpenGLScene* pentagonScene = nullptr;
     GraphicsView* pentagonView = nullptr;
     AssoOpenGLScene* assoScene = nullptr;
+    QTimer* assoTimer = nullptr;
     GraphicsView* assoView = nullptr;
     SineOpenGLScene* sineScene = nullptr;
     GraphicsView* sineView = nullptr;

@@ -1,12 +1,932 @@
 #include "gui/AssoOpenGLScene.h"
 
+#include "core/CFormat.h"
+#include "core/SafeFileWriter.h"
+#include "core/TextFileReader.h"
+#include "gui/AssoFocusWindow.h"
+#include "gui/AssoSelectionWindow.h"
 #include "gui/GlPlotFrame.h"
+#include "gui/ImageLookup.h"
 
-AssoOpenGLScene::AssoOpenGLScene(QObject* parent) : OpenGLPlotScene(parent) {}
+#include <GL/gl.h>
+#include <QDoubleValidator>
+#include <QGraphicsSceneMouseEvent>
+#include <QIntValidator>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QSlider>
+#include <QTimer>
+#include <algorithm>
+#include <cmath>
+
+using quillon::cformat;
+
+namespace
+{
+
+constexpr int kBaseInterval = 400;
+constexpr int kGridLines = 21;
+
+QString qformat(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+QFont overlayFont()
+{
+    QFont font(QStringLiteral("times"), 10);
+    font.setWeight(QFont::Bold);
+    return font;
+}
+
+const char* screenWord(int32_t code)
+{
+    switch (code) {
+    case AssoNan:
+        return "NAN";
+    case AssoOverflow:
+        return "Overflow";
+    default:
+        return "Underflow";
+    }
+}
+
+QString fileError(const std::string& error)
+{
+    return QString::fromStdString(error);
+}
+
+} // namespace
+
+AssoOpenGLScene::AssoOpenGLScene(const AssoPanel& panel, QObject* parent)
+    : OpenGLPlotScene(parent), panel(panel)
+{
+    colours = {{{128, 0, 128}, {0, 128, 128}, {255, 69, 0}, {128, 128, 0}, {0, 255, 0}}};
+    for (int k = 0; k < kAssoOrderCount; ++k) {
+        formulaImages[k] = quillon::loadImage(QStringLiteral("func%1.png").arg(k + 1));
+    }
+    checkedImage = quillon::loadImage(QStringLiteral("c.png"));
+    uncheckedImage = quillon::loadImage(QStringLiteral("u.png"));
+    errorImage = quillon::loadImage(QStringLiteral("error.png"));
+    computeSequences();
+}
+
+void AssoOpenGLScene::setColor(int order, const quillon::ColorTriple& color)
+{
+    colours[order] = color;
+    repaint();
+}
+
+// ---- inputs -------------------------------------------------------------------------------
+
+void AssoOpenGLScene::computeSequences()
+{
+    ::computeSequences(R, X0, N, results);
+}
+
+void AssoOpenGLScene::refreshPanel()
+{
+    panel.iterations->setText(qformat(cformat("%d", N)));
+    auto* countValidator = new QIntValidator(1, 10000, panel.iterations);
+    countValidator->setLocale(QLocale::c());
+    delete panel.iterations->validator();
+    panel.iterations->setValidator(countValidator);
+    for (auto [edit, value] : {std::pair{panel.x0, X0}, std::pair{panel.r, R}}) {
+        edit->setText(qformat(cformat("%f", double(value))));
+        auto* validator = new QDoubleValidator(-10000.0, 10000.0, 2, edit);
+        validator->setLocale(QLocale::c());
+        validator->setNotation(QDoubleValidator::StandardNotation);
+        delete edit->validator();
+        edit->setValidator(validator);
+    }
+}
+
+void AssoOpenGLScene::setUpPanel()
+{
+    refreshPanel();
+    const QSignalBlocker blocker(panel.timeSlider);
+    panel.timeSlider->setRange(0, N - 20 * window.step - 1);
+    setTimeLabels();
+    speedAdjust();
+}
+
+void AssoOpenGLScene::shiftWindowBack()
+{
+    window.end -= window.start;
+    window.start = 0;
+    window.animationPosition = 0;
+}
+
+void AssoOpenGLScene::updateR()
+{
+    R = panel.r->text().toFloat();
+    computeSequences();
+    shiftWindowBack();
+    repaint();
+}
+
+void AssoOpenGLScene::updateX()
+{
+    X0 = panel.x0->text().toFloat();
+    computeSequences();
+    shiftWindowBack();
+    repaint();
+}
+
+void AssoOpenGLScene::updateMaxItera()
+{
+    N = panel.iterations->text().toInt();
+    computeSequences();
+    refreshPanel();
+    const QSignalBlocker blocker(panel.timeSlider);
+    panel.timeSlider->setMaximum(N - 20 * window.step - 1);
+    panel.timeEnd->setText(qformat(cformat("%d", N - 20 * window.step - 1)));
+    panel.mainWindow->update();
+    refreshFocusWindow();
+    shiftWindowBack();
+    repaint();
+}
+
+void AssoOpenGLScene::calculate()
+{
+    X0 = panel.x0->text().toFloat();
+    N = panel.iterations->text().toInt();
+    computeSequences();
+    refreshPanel();
+    shiftWindowBack();
+    repaint();
+}
+
+// ---- selections and view options ----------------------------------------------------------
+
+void AssoOpenGLScene::updateYmin()
+{
+    yMin = focusWindow->yMinText().toFloat();
+    repaint();
+}
+
+void AssoOpenGLScene::updateYmax()
+{
+    yMax = focusWindow->yMaxText().toFloat();
+    repaint();
+}
+
+void AssoOpenGLScene::Yapply()
+{
+    yMin = focusWindow->yMinText().toFloat();
+    yMax = focusWindow->yMaxText().toFloat();
+    repaint();
+}
+
+void AssoOpenGLScene::setNeedFunc(int order, bool need)
+{
+    needFunc[order] = need;
+    repaint();
+}
+
+void AssoOpenGLScene::needFunc0(bool need)
+{
+    setNeedFunc(0, need);
+}
+void AssoOpenGLScene::needFunc1(bool need)
+{
+    setNeedFunc(1, need);
+}
+void AssoOpenGLScene::needFunc2(bool need)
+{
+    setNeedFunc(2, need);
+}
+void AssoOpenGLScene::needFunc3(bool need)
+{
+    setNeedFunc(3, need);
+}
+void AssoOpenGLScene::needFunc4(bool need)
+{
+    setNeedFunc(4, need);
+}
+
+void AssoOpenGLScene::syncSelectionWindow()
+{
+    if (selectionWindow != nullptr) {
+        selectionWindow->synchronise();
+        selectionWindow->update();
+    }
+}
+
+void AssoOpenGLScene::allUnchoose()
+{
+    needFunc.fill(false);
+    repaint();
+    panel.mainWindow->update();
+    syncSelectionWindow();
+}
+
+void AssoOpenGLScene::allchoose()
+{
+    needFunc.fill(true);
+    repaint();
+    panel.mainWindow->update();
+    syncSelectionWindow();
+}
+
+void AssoOpenGLScene::needErrorComparison(bool need)
+{
+    compare = need;
+    fitYRange();
+    repaint();
+    refreshFocusWindow();
+}
+
+void AssoOpenGLScene::setBaseFunc(int order, bool chosen)
+{
+    if (!chosen || !compare) {
+        return;
+    }
+    baseFunc = order;
+    fitYRange();
+    repaint();
+}
+
+void AssoOpenGLScene::setBaseFunc1(bool chosen)
+{
+    setBaseFunc(0, chosen);
+}
+void AssoOpenGLScene::setBaseFunc2(bool chosen)
+{
+    setBaseFunc(1, chosen);
+}
+void AssoOpenGLScene::setBaseFunc3(bool chosen)
+{
+    setBaseFunc(2, chosen);
+}
+void AssoOpenGLScene::setBaseFunc4(bool chosen)
+{
+    setBaseFunc(3, chosen);
+}
+void AssoOpenGLScene::setBaseFunc5(bool chosen)
+{
+    setBaseFunc(4, chosen);
+}
+
+void AssoOpenGLScene::setNeedXAxis(bool need)
+{
+    needXAxis = need;
+    repaint();
+}
+
+void AssoOpenGLScene::setNeedYAxis(bool need)
+{
+    needYAxis = need;
+    repaint();
+}
+
+void AssoOpenGLScene::need2ShowXIndices(bool show)
+{
+    showXIndices = show;
+    repaint();
+}
+
+void AssoOpenGLScene::need2ShowYIndices(bool show)
+{
+    showYIndices = show;
+    repaint();
+}
+
+void AssoOpenGLScene::need2ShowLabels(bool show)
+{
+    showLabels = show;
+    repaint();
+}
+
+// ---- the X window -------------------------------------------------------------------------
+
+bool AssoOpenGLScene::isFixingNodeCount() const
+{
+    return focusWindow != nullptr && focusWindow->fixesNodeCount();
+}
+
+void AssoOpenGLScene::refreshFocusWindow()
+{
+    if (focusWindow != nullptr) {
+        focusWindow->refresh();
+        focusWindow->update();
+    }
+}
+
+void AssoOpenGLScene::setStartpoint(int value)
+{
+    if (isFixingNodeCount()) {
+        if (window.end - window.start + value > N - 1) {
+            return;
+        }
+        window.end += value - window.start;
+    } else if (value >= N - 1) {
+        return;
+    }
+    window.start = value;
+    refreshFocusWindow();
+    repaint();
+}
+
+void AssoOpenGLScene::setEndpoint(int value)
+{
+    if (isFixingNodeCount()) {
+        if (window.start - window.end + value < 0) {
+            return;
+        }
+        window.start += value - window.end;
+    } else if (value <= window.step) {
+        // Compared with the step size, not with the start point.
+        return;
+    }
+    window.end = value;
+    refreshFocusWindow();
+    repaint();
+}
+
+void AssoOpenGLScene::setStepsize(int value)
+{
+    // A step below 1 would make the displayed-node test divide by zero; the focus window's
+    // slider starts at 1, so only a programmatic call can ask for it.
+    window.step = std::max(value, 1);
+    refreshFocusWindow();
+    repaint();
+}
+
+void AssoOpenGLScene::resetXY()
+{
+    window.step = 1;
+    window.end -= window.start;
+    window.start = 0;
+    repaint();
+    fitYRange();
+    refreshFocusWindow();
+}
+
+// ---- animation ----------------------------------------------------------------------------
+
+void AssoOpenGLScene::accelerate()
+{
+    ++speed;
+    speedAdjust();
+}
+
+void AssoOpenGLScene::decelerate()
+{
+    --speed;
+    speedAdjust();
+}
+
+void AssoOpenGLScene::speedAdjust()
+{
+    if (speed < maxSpeed) {
+        panel.accelerate->setEnabled(true);
+    } else {
+        speed = maxSpeed;
+        panel.accelerate->setEnabled(false);
+    }
+    if (speed > minSpeed) {
+        panel.decelerate->setEnabled(true);
+    } else {
+        speed = minSpeed;
+        panel.decelerate->setEnabled(false);
+    }
+    const int interval = speed == 0  ? kBaseInterval
+                         : speed > 0 ? kBaseInterval / speed
+                                     : kBaseInterval * -speed;
+    panel.timer->setInterval(interval);
+    repaint();
+}
+
+void AssoOpenGLScene::pause()
+{
+    setPaused(!isPaused());
+    panel.pause->setText(isPaused() ? QStringLiteral("Resume") : QStringLiteral("Pause"));
+}
+
+void AssoOpenGLScene::setTimeLabels()
+{
+    panel.timeValue->setText(qformat(cformat("%d", window.start)));
+    panel.timeStart->setText(qformat(cformat("%d", 0)));
+    panel.timeEnd->setText(qformat(cformat("%d", N - 20 * window.step - 1)));
+}
+
+void AssoOpenGLScene::runningMan()
+{
+    if (isPaused()) {
+        return;
+    }
+    if (window.end + window.step < N) {
+        if (window.slideInDone()) {
+            window.start += window.step;
+            window.end += window.step;
+        } else {
+            ++window.animationPosition;
+        }
+        refreshFocusWindow();
+        setTimeLabels();
+        panel.mainWindow->update();
+        repaint();
+    }
+    fitYRange();
+    repaint();
+}
+
+void AssoOpenGLScene::setTimeStartpoint(int value)
+{
+    window.animationPosition = 20;
+    if (window.end - window.start + value > N - 1) {
+        return;
+    }
+    if (isFixingNodeCount()) {
+        window.end += value - window.start;
+    }
+    window.start = value;
+    refreshFocusWindow();
+    setTimeLabels();
+    panel.mainWindow->update();
+    repaint();
+}
+
+// ---- geometry -----------------------------------------------------------------------------
+
+AssoPlotContent AssoOpenGLScene::plotContent() const
+{
+    return {&results, needFunc, compare, baseFunc, N};
+}
+
+float AssoOpenGLScene::nodeX(int n) const
+{
+    return assoNodeX(window, n, xMin, xMax);
+}
+
+float AssoOpenGLScene::nodePixelX(int n) const
+{
+    return float(viewWidth) * (nodeX(n) - xMin) / (xMax - xMin);
+}
+
+float AssoOpenGLScene::valuePixelY(float value) const
+{
+    return float(viewHeight) * (yMax - value) / (yMax - yMin);
+}
+
+float AssoOpenGLScene::gridValue(int i) const
+{
+    return (yMin + yMax) * 0.5f + (yMax - yMin) / 20.0f * float(i - 10);
+}
+
+void AssoOpenGLScene::fitYRange()
+{
+    const auto range = assoFitYRange(plotContent(), window, xMin, xMax);
+    if (range) {
+        // A flat set of values (R = 0, say) still needs a range of some height.
+        const float margin =
+            range->first == range->second ? std::max(std::fabs(range->first) * 0.5f, 0.5f) : 0.0f;
+        yMin = range->first - margin;
+        yMax = range->second + margin;
+    }
+    refreshFocusWindow();
+    repaint();
+}
+
+QRectF AssoOpenGLScene::errorIconRect(int n) const
+{
+    const int rowHeight = int(std::floor(0.25 * viewHeight)) / 5;
+    const int size = std::min(viewWidth / 15, rowHeight);
+    const double left = std::floor(nodePixelX(n)) - size / 2;
+    const double top = std::floor(0.2 * viewHeight) + size / 2;
+    return QRectF(left, top, size, size);
+}
+
+bool AssoOpenGLScene::mouseOnErrorIcon() const
+{
+    for (int k = 0; k < 4; ++k) {
+        if (!needFunc[k + 1]) {
+            continue;
+        }
+        const std::vector<int32_t>& errors = results.errors[k];
+        for (int n = 0; n < N && size_t(n) < errors.size(); ++n) {
+            if (errors[n] == AssoOk) {
+                continue;
+            }
+            const QRectF icon = errorIconRect(n);
+            if (icon.left() <= mouseX && mouseX <= icon.right() && icon.top() <= mouseY &&
+                mouseY <= icon.bottom()) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+// ---- mouse --------------------------------------------------------------------------------
+
+void AssoOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    QGraphicsScene::mousePressEvent(event);
+    if (event->isAccepted()) {
+        return;
+    }
+    if (event->button() == Qt::LeftButton) {
+        pressX = float(event->scenePos().x());
+        pressY = float(event->scenePos().y());
+        if (showLabels) {
+            const int row = assoLegendRowAt(mouseY, viewHeight);
+            if (row >= 0 && row < kAssoOrderCount) {
+                needFunc[row] = !needFunc[row];
+                syncSelectionWindow();
+                repaint();
+            }
+        }
+    }
+    event->accept();
+}
+
+void AssoOpenGLScene::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
+{
+    QGraphicsScene::mouseMoveEvent(event);
+    if (event->isAccepted()) {
+        return;
+    }
+    mouseX = float(event->scenePos().x());
+    mouseY = float(event->scenePos().y());
+    showErrorMessages = mouseOnErrorIcon();
+    if (showLabels) {
+        highlightedFunc = assoLegendRowAt(mouseY, viewHeight);
+    }
+    repaint();
+}
+
+void AssoOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    QGraphicsScene::mouseReleaseEvent(event);
+    if (event->isAccepted()) {
+        return;
+    }
+    const float releaseX = float(event->scenePos().x());
+    const float releaseY = float(event->scenePos().y());
+    if (event->button() == Qt::LeftButton) {
+        if (std::fabs(releaseX - pressX) >= 1e-11f || std::fabs(releaseY - pressY) >= 1e-11f) {
+            zoomTo(releaseX, releaseY);
+        }
+        pressX = -1.0f;
+        pressY = -1.0f;
+    } else if (event->button() == Qt::RightButton) {
+        undoZoom();
+    }
+    event->accept();
+    repaint();
+}
+
+void AssoOpenGLScene::zoomTo(float releaseX, float releaseY)
+{
+    if (!(pressX > 0 && pressY > 0) || viewWidth <= 0 || viewHeight <= 0) {
+        return;
+    }
+    if (zoomHistory.empty()) {
+        zoomHistory.push_back({window.start, window.end, yMin, yMax});
+    }
+    const AssoZoomState zoomed =
+        assoZoom(window, yMin, yMax, N, xMin, xMax,
+                 {pressX, pressY, releaseX, releaseY, viewWidth, viewHeight});
+    window.end = zoomed.end;
+    yMin = zoomed.yMin;
+    yMax = zoomed.yMax;
+    window.start = zoomed.start;
+    zoomHistory.push_back({window.start, window.end, yMin, yMax});
+    repaint();
+}
+
+void AssoOpenGLScene::undoZoom()
+{
+    if (!zoomHistory.empty()) {
+        zoomHistory.pop_back();
+    }
+    if (!zoomHistory.empty()) {
+        const ZoomEntry& previous = zoomHistory.back();
+        window.start = previous.start;
+        window.end = previous.end;
+        yMin = previous.yMin;
+        yMax = previous.yMax;
+    }
+}
+
+// ---- background ---------------------------------------------------------------------------
 
 void AssoOpenGLScene::drawBackground(QPainter* painter, const QRectF&)
 {
     quillon::GlPlotFrame frame(painter);
     frame.clearToWhite();
     frame.lookAtOrthographic(-1.5, 1.5, yMin, yMax);
+    glPushMatrix();
+    drawReferenceLines();
+    drawCurves();
+    glPopMatrix();
+    glDisable(GL_DEPTH_TEST);
+}
+
+void AssoOpenGLScene::drawReferenceLines() const
+{
+    glPushAttrib(GL_ENABLE_BIT);
+    glColor3f(gridColor[0], gridColor[1], gridColor[2]);
+    glLineWidth(float(gridLineWidth));
+    glLineStipple(1, 0xAAAA);
+    glEnable(GL_LINE_STIPPLE);
+    glBegin(GL_LINES);
+    for (float y : {-1.0f, 1.0f, 0.0f}) {
+        glVertex3f(xMin, y, gridDepth);
+        glVertex3f(xMax, y, gridDepth);
+    }
+    if (needYAxis) {
+        for (int i = 0; i < kGridLines; ++i) {
+            glVertex3f(xMin, gridValue(i), gridDepth);
+            glVertex3f(xMax, gridValue(i), gridDepth);
+        }
+    }
+    glEnd();
+    glPopAttrib();
+}
+
+void AssoOpenGLScene::drawCurves() const
+{
+    const AssoPlotContent content = plotContent();
+    for (int k = 0; k < kAssoOrderCount; ++k) {
+        if (!needFunc[k]) {
+            continue;
+        }
+        glColor3f(colours[k].redF(), colours[k].greenF(), colours[k].blueF());
+        glLineWidth(float(curveWidthOffset + 2));
+        const float depth = k == highlightedFunc ? highlightedDepth : normalDepth;
+        const int stop = content.curveEnd(k);
+        glBegin(GL_LINES);
+        int previous = -1;
+        for (int n = std::max(window.start, 0); n < stop && n <= window.end; ++n) {
+            if (!window.displays(n)) {
+                continue;
+            }
+            if (previous >= 0) {
+                glVertex3f(nodeX(n), *content.plotted(k, n), depth);
+                glVertex3f(nodeX(previous), *content.plotted(k, previous), depth);
+            }
+            previous = n;
+        }
+        glEnd();
+    }
+}
+
+// ---- foreground ---------------------------------------------------------------------------
+
+void AssoOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
+{
+    viewWidth = int(rect.width());
+    viewHeight = int(rect.height());
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    if (showXIndices) {
+        drawXIndices(painter);
+    }
+    if (showYIndices) {
+        drawYIndices(painter);
+    }
+    if (needXAxis) {
+        drawXAxisLines(painter);
+    }
+    if (needYAxis) {
+        drawYAxisLines(painter);
+    }
+    drawErrorIcons(painter);
+    if (showErrorMessages) {
+        drawErrorMessages(painter);
+    }
+    drawRubberBand(painter);
+    if (showLabels) {
+        drawLegend(painter);
+    }
+    drawSpreadReadout(painter);
+    painter->restore();
+}
+
+void AssoOpenGLScene::drawXIndices(QPainter* painter) const
+{
+    painter->setFont(overlayFont());
+    painter->setPen(Qt::darkBlue);
+    const QFontMetrics metrics(overlayFont());
+    for (int n = std::max(window.start, 0); n <= window.end && n < N; ++n) {
+        if (!window.displays(n)) {
+            continue;
+        }
+        const QString text = qformat(cformat("%d", n));
+        const float x = nodePixelX(n) - float(metrics.horizontalAdvance(text)) / 2.0f;
+        painter->save();
+        painter->translate(x, 0);
+        painter->rotate(90);
+        painter->drawText(QPointF(2, -2), text);
+        painter->restore();
+    }
+}
+
+void AssoOpenGLScene::drawYIndices(QPainter* painter) const
+{
+    painter->setFont(overlayFont());
+    painter->setPen(Qt::darkMagenta);
+    const float halfHeight = float(QFontMetrics(overlayFont()).height()) / 2.0f;
+    for (int i = 0; i < kGridLines; ++i) {
+        const float value = gridValue(i);
+        painter->drawText(QPointF(0, valuePixelY(value) + halfHeight),
+                          qformat(cformat("%.2e", double(value))));
+    }
+}
+
+void AssoOpenGLScene::drawXAxisLines(QPainter* painter) const
+{
+    painter->setPen(Qt::darkBlue);
+    const QFontMetrics metrics(overlayFont());
+    for (int n = std::max(window.start, 0); n <= window.end && n < N; ++n) {
+        if (!window.displays(n)) {
+            continue;
+        }
+        // Half a label's width left of the node, where its rotated label stands.
+        const float x =
+            nodePixelX(n) - float(metrics.horizontalAdvance(qformat(cformat("%d", n)))) / 2.0f;
+        painter->drawLine(QPointF(x, 0), QPointF(x, viewHeight));
+    }
+}
+
+void AssoOpenGLScene::drawYAxisLines(QPainter* painter) const
+{
+    painter->setPen(Qt::darkMagenta);
+    for (int i = 0; i < kGridLines; ++i) {
+        const float y = valuePixelY(gridValue(i));
+        painter->drawLine(QPointF(0, y), QPointF(viewWidth, y));
+    }
+}
+
+// Icons of order k follow the flag of order k + 1, and the fifth order never gets any.
+void AssoOpenGLScene::drawErrorIcons(QPainter* painter) const
+{
+    for (int k = 0; k < 4; ++k) {
+        if (!needFunc[k + 1]) {
+            continue;
+        }
+        const std::vector<int32_t>& errors = results.errors[k];
+        for (int n = 0; n < N && size_t(n) < errors.size(); ++n) {
+            if (errors[n] != AssoOk) {
+                painter->drawImage(errorIconRect(n), errorImage);
+            }
+        }
+    }
+}
+
+void AssoOpenGLScene::drawErrorMessages(QPainter* painter) const
+{
+    struct Message {
+        int order;
+        int iteration;
+        int32_t code;
+    };
+    std::vector<Message> messages;
+    for (int k = 0; k < kAssoOrderCount; ++k) {
+        if (!needFunc[k]) {
+            continue;
+        }
+        for (size_t n = 0; n < results.errors[k].size(); ++n) {
+            if (results.errors[k][n] != AssoOk) {
+                messages.push_back({k, int(n), results.errors[k][n]});
+            }
+        }
+    }
+    const QFontMetrics metrics(overlayFont());
+    const int lineHeight = metrics.height();
+    const int total = int(messages.size());
+    int widest = 0;
+    bool below = false;
+    bool left = false;
+    // Measured with the "get" wording, drawn with "gets".
+    for (int i = 0; i < total; ++i) {
+        const Message& m = messages[i];
+        const QString measured = qformat(cformat("func %d at iter %d get an error: %s\n", m.order,
+                                                 m.iteration, screenWord(m.code)));
+        const int width = metrics.horizontalAdvance(measured);
+        widest = std::max(widest, width);
+        below = below || mouseY - float(i * lineHeight) < 0;
+        left = left || mouseX + float(width) > float(viewWidth);
+    }
+    painter->setFont(overlayFont());
+    painter->setPen(QColor(255, 0, 0));
+    for (int i = 0; i < total; ++i) {
+        const Message& m = messages[i];
+        const QString text = qformat(cformat("func %d at iter %d gets an error: %s\n", m.order,
+                                             m.iteration, screenWord(m.code)));
+        const float x = left ? mouseX - float(widest) : mouseX;
+        const float y = below ? mouseY + float((total - i) * lineHeight)
+                              : mouseY - float((total - i) * lineHeight);
+        painter->drawText(QRectF(x, y, metrics.horizontalAdvance(text), lineHeight), Qt::AlignLeft,
+                          text.trimmed());
+    }
+}
+
+void AssoOpenGLScene::drawRubberBand(QPainter* painter) const
+{
+    if (pressX == -1.0f || pressY == -1.0f) {
+        return;
+    }
+    painter->setPen(Qt::black);
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(QRectF(QPointF(pressX, pressY), QPointF(mouseX, mouseY)));
+}
+
+void AssoOpenGLScene::drawLegend(QPainter* painter) const
+{
+    const int rowHeight = int(std::floor(0.25 * viewHeight)) / 5;
+    const int columnWidth = viewWidth / 15;
+    const int top = int(std::floor(0.75 * viewHeight));
+    const int side = std::min(columnWidth, rowHeight);
+    painter->setPen(Qt::black);
+    painter->drawLine(0, top, viewWidth, top);
+    const float formulaHeight =
+        std::min(float(rowHeight), 10.0f * float(columnWidth) / formulaAspect);
+    for (int k = 0; k < kAssoOrderCount; ++k) {
+        const int rowTop = top + k * rowHeight;
+        const int squareTop = rowTop + (rowHeight - side) / 2;
+        painter->drawImage(QRect((columnWidth - side) / 2, squareTop, side, side),
+                           needFunc[k] ? checkedImage : uncheckedImage);
+        painter->drawImage(QRectF(2 * columnWidth, rowTop + (rowHeight - formulaHeight) / 2,
+                                  formulaHeight * formulaAspect, formulaHeight),
+                           formulaImages[k]);
+        painter->fillRect(QRect(13 * columnWidth + (columnWidth - side) / 2, squareTop, side, side),
+                          QColor(colours[k].red, colours[k].green, colours[k].blue));
+    }
+}
+
+void AssoOpenGLScene::drawSpreadReadout(QPainter* painter) const
+{
+    const int current = assoCurrentNode(window, N, xMin, xMax);
+    if (current < 0) {
+        return;
+    }
+    float largest = 0.0f;
+    float smallest = 0.0f;
+    int taking = 0;
+    for (int k = 0; k < kAssoOrderCount; ++k) {
+        if (!needFunc[k] || size_t(current) >= results.values[k].size() ||
+            results.errors[k][current] != AssoOk) {
+            continue;
+        }
+        const float value = results.values[k][current];
+        largest = taking == 0 ? value : std::max(largest, value);
+        smallest = taking == 0 ? value : std::min(smallest, value);
+        ++taking;
+    }
+    if (taking < 2) {
+        return;
+    }
+    const QString text =
+        qformat(cformat("Error: %2e\n", double(largest) - double(smallest))).trimmed();
+    painter->setFont(overlayFont());
+    painter->setPen(QPen());
+    const int textHeight = QFontMetrics(overlayFont()).height();
+    const float boxTop = float(0.75 * viewHeight) - float(int(std::floor(0.25 * viewHeight)) / 5);
+    painter->drawText(QRectF(0, boxTop, viewWidth, textHeight), Qt::AlignLeft | Qt::AlignVCenter,
+                      text);
+}
+
+// ---- files --------------------------------------------------------------------------------
+
+QString AssoOpenGLScene::saveColorFile(const QString& path) const
+{
+    std::string error;
+    return quillon::writeFileAtomically(path.toStdString(), assoColorFileText(colours), error)
+               ? QString()
+               : fileError(error);
+}
+
+QString AssoOpenGLScene::loadColorFile(const QString& path)
+{
+    std::string text;
+    std::string error;
+    if (!quillon::readTextFile(path.toStdString(), quillon::kMaxConfigurationFileBytes, text,
+                               error)) {
+        return fileError(error);
+    }
+    readAssoColorFile(text, colours);
+    repaint();
+    return QString();
+}
+
+QString AssoOpenGLScene::saveTextData(const QString& path) const
+{
+    std::string error;
+    return quillon::writeFileAtomically(path.toStdString(), assoTextExport(results), error)
+               ? QString()
+               : fileError(error);
+}
+
+QString AssoOpenGLScene::saveCsvData(const QString& path) const
+{
+    std::string error;
+    return quillon::writeFileAtomically(path.toStdString(), assoCsvExport(results, N), error)
+               ? QString()
+               : fileError(error);
 }

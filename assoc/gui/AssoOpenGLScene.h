@@ -1,21 +1,189 @@
 #pragma once
 
+#include "engine/AssoFiles.h"
+#include "engine/AssoPlotGeometry.h"
+#include "engine/AssoRecurrence.h"
+#include "gui/AssoPanel.h"
 #include "gui/OpenGLPlotScene.h"
 
-// The associative-law tab's plot: the five evaluation orders of the recurrence drawn against
-// the iteration number. The background is drawn with OpenGL in a box that spans -1.5..1.5
-// horizontally and yMin..yMax vertically.
+#include <QImage>
+#include <QString>
+#include <array>
+#include <vector>
+
+class AssoFocusWindow;
+class AssoSelectionWindow;
+class QPainter;
+
+// The associative-law tab's model and picture: the inputs, colours, view settings and
+// animation state of the module, the five sequences the engine computes from them, the
+// OpenGL background (reference lines and curves) and the painter foreground (labels, error
+// icons and messages, rubber band, legend, spread readout). The panel and the tool windows
+// change it only through its slots.
 class AssoOpenGLScene : public quillon::OpenGLPlotScene
 {
     Q_OBJECT
 
 public:
-    explicit AssoOpenGLScene(QObject* parent = nullptr);
+    AssoOpenGLScene(const AssoPanel& panel, QObject* parent = nullptr);
+
+    // Writes the inputs, their validators and the time slider's range into the panel.
+    void setUpPanel();
+
+    void setSelectionWindow(AssoSelectionWindow* window) { selectionWindow = window; }
+    void setFocusWindow(AssoFocusWindow* window) { focusWindow = window; }
+
+    // State the tool windows, the exports and the tests read.
+    float getYMin() const { return yMin; }
+    float getYMax() const { return yMax; }
+    float getR() const { return R; }
+    float getX0() const { return X0; }
+    int getN() const { return N; }
+    const AssoXWindow& xWindow() const { return window; }
+    const AssoSequences& sequences() const { return results; }
+    const AssoColors& colors() const { return colours; }
+    void setColor(int order, const quillon::ColorTriple& color);
+    bool isFuncNeeded(int order) const { return needFunc[order]; }
+    bool isComparing() const { return compare; }
+    int baseFunction() const { return baseFunc; }
+    int speedLevel() const { return speed; }
+    int highlightedFunction() const { return highlightedFunc; }
+    bool showsErrorMessages() const { return showErrorMessages; }
+    int zoomDepth() const { return int(zoomHistory.size()); }
+    // The square of the error icon of iteration n in view pixels.
+    QRectF errorIconRect(int n) const;
+
+    // The module's files; each returns why it failed (and then changed nothing), or "".
+    QString saveColorFile(const QString& path) const;
+    QString loadColorFile(const QString& path);
+    QString saveTextData(const QString& path) const;
+    QString saveCsvData(const QString& path) const;
+
+public slots:
+    void updateMaxItera();
+    void updateX();
+    void updateR();
+    void updateYmin();
+    void updateYmax();
+    void needFunc0(bool need);
+    void needFunc1(bool need);
+    void needFunc2(bool need);
+    void needFunc3(bool need);
+    void needFunc4(bool need);
+    void allUnchoose();
+    void allchoose();
+    void needErrorComparison(bool need);
+    void setBaseFunc1(bool chosen);
+    void setBaseFunc2(bool chosen);
+    void setBaseFunc3(bool chosen);
+    void setBaseFunc4(bool chosen);
+    void setBaseFunc5(bool chosen);
+    void setStartpoint(int value);
+    void setEndpoint(int value);
+    void setStepsize(int value);
+    void calculate();
+    void setNeedXAxis(bool need);
+    void setNeedYAxis(bool need);
+    void Yapply();
+    void resetXY();
+    void need2ShowXIndices(bool show);
+    void need2ShowYIndices(bool show);
+    void need2ShowLabels(bool show);
+    void accelerate();
+    void decelerate();
+    void speedAdjust();
+    void pause();
+    void runningMan();
+    void setTimeStartpoint(int value);
 
 protected:
     void drawBackground(QPainter* painter, const QRectF& rect) override;
+    void drawForeground(QPainter* painter, const QRectF& rect) override;
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
 
 private:
+    struct ZoomEntry {
+        int start;
+        int end;
+        float yMin;
+        float yMax;
+    };
+
+    void computeSequences();
+    void refreshPanel();
+    void shiftWindowBack();
+    void refreshFocusWindow();
+    void syncSelectionWindow();
+    void setNeedFunc(int order, bool need);
+    void setBaseFunc(int order, bool chosen);
+    void fitYRange();
+    void setTimeLabels();
+    bool isFixingNodeCount() const;
+    AssoPlotContent plotContent() const;
+    float nodeX(int n) const;
+    float nodePixelX(int n) const;
+    float valuePixelY(float value) const;
+    float gridValue(int i) const;
+    bool mouseOnErrorIcon() const;
+    void zoomTo(float releaseX, float releaseY);
+    void undoZoom();
+
+    void drawReferenceLines() const;
+    void drawCurves() const;
+    void drawXIndices(QPainter* painter) const;
+    void drawYIndices(QPainter* painter) const;
+    void drawXAxisLines(QPainter* painter) const;
+    void drawYAxisLines(QPainter* painter) const;
+    void drawErrorIcons(QPainter* painter) const;
+    void drawErrorMessages(QPainter* painter) const;
+    void drawRubberBand(QPainter* painter) const;
+    void drawLegend(QPainter* painter) const;
+    void drawSpreadReadout(QPainter* painter) const;
+
+    AssoSelectionWindow* selectionWindow = nullptr;
+    AssoFocusWindow* focusWindow = nullptr;
     float yMax = 1.5f;
     float yMin = -1.5f;
+    float xMin = -1.5f;
+    float xMax = 1.5f;
+    float X0 = 0.5f;
+    int N = 300;
+    float R = 3.0f;
+    AssoColors colours;
+    std::array<bool, kAssoOrderCount> needFunc = {true, true, true, true, true};
+    AssoXWindow window;
+    int minSpeed = -5;
+    int maxSpeed = 5;
+    int speed = 0;
+    bool compare = false;
+    int baseFunc = 0;
+    bool needXAxis = false;
+    bool needYAxis = false;
+    bool showXIndices = true;
+    bool showYIndices = false;
+    bool showLabels = true;
+    AssoPanel panel;
+    int viewWidth = 0;
+    int viewHeight = 0;
+    AssoSequences results;
+    float gridColor[3] = {0.25f, 0.25f, 0.25f};
+    int gridLineWidth = 1;
+    int curveWidthOffset = 2;
+    bool showErrorMessages = false;
+    float mouseX = 0.0f;
+    float mouseY = 0.0f;
+    float pressX = -1.0f;
+    float pressY = -1.0f;
+    int highlightedFunc = -1;
+    float highlightedDepth = 3.0f;
+    float normalDepth = 2.0f;
+    float gridDepth = 0.0f;
+    float formulaAspect = 14.788462f;
+    std::array<QImage, kAssoOrderCount> formulaImages;
+    QImage checkedImage;
+    QImage uncheckedImage;
+    QImage errorImage;
+    std::vector<ZoomEntry> zoomHistory;
 };

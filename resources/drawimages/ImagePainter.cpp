@@ -27,6 +27,27 @@ const std::map<QString, std::pair<QString, int>>& formulaImages()
     return formulas;
 }
 
+// The associative law's five evaluation orders, in the order of the engine.
+const QStringList& orderFormulas()
+{
+    static const QStringList formulas = {
+        QStringLiteral("X<sub>n</sub> = (R + 1) X<sub>n-1</sub> - R (X<sub>n-1</sub> "
+                       "X<sub>n-1</sub>)"),
+        QStringLiteral("X<sub>n</sub> = (R + 1) X<sub>n-1</sub> - (R X<sub>n-1</sub>) "
+                       "X<sub>n-1</sub>"),
+        QStringLiteral("X<sub>n</sub> = ((R + 1) - R X<sub>n-1</sub>) X<sub>n-1</sub>"),
+        QStringLiteral("X<sub>n</sub> = R X<sub>n-1</sub> + (1 - R X<sub>n-1</sub>) "
+                       "X<sub>n-1</sub>"),
+        QStringLiteral("X<sub>n</sub> = X<sub>n-1</sub> + R (X<sub>n-1</sub> - X<sub>n-1</sub> "
+                       "X<sub>n-1</sub>)"),
+    };
+    return formulas;
+}
+
+// The formula images keep this width-to-height ratio; the legend scales them by it.
+constexpr int kOrderImageHeight = 52;
+constexpr int kOrderImageWidth = 769; // 769 / 52 = 14.788462
+
 } // namespace
 
 QStringList ImagePainter::imageNames()
@@ -35,6 +56,10 @@ QStringList ImagePainter::imageNames()
     for (const auto& formula : formulaImages()) {
         names << formula.first;
     }
+    for (int k = 1; k <= orderFormulas().size(); ++k) {
+        names << QStringLiteral("func%1.png").arg(k);
+    }
+    names << QStringLiteral("c.png") << QStringLiteral("u.png") << QStringLiteral("error.png");
     return names;
 }
 
@@ -46,6 +71,17 @@ QImage ImagePainter::draw(const QString& name)
     const auto formula = formulaImages().find(name);
     if (formula != formulaImages().end()) {
         return drawFormula(formula->second.first, formula->second.second);
+    }
+    for (int k = 1; k <= orderFormulas().size(); ++k) {
+        if (name == QStringLiteral("func%1.png").arg(k)) {
+            return drawOrderFormula(orderFormulas()[k - 1]);
+        }
+    }
+    if (name == QLatin1String("c.png") || name == QLatin1String("u.png")) {
+        return drawCheckIndicator(name == QLatin1String("c.png"));
+    }
+    if (name == QLatin1String("error.png")) {
+        return drawErrorIcon();
     }
     return QImage();
 }
@@ -91,5 +127,67 @@ QImage ImagePainter::drawFormula(const QString& html, int pixelSize)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::TextAntialiasing);
     document.drawContents(&painter);
+    return image;
+}
+
+// A formula centred on a transparent image of the fixed legend proportions, with the text
+// as large as the height allows.
+QImage ImagePainter::drawOrderFormula(const QString& html)
+{
+    QImage image(kOrderImageWidth, kOrderImageHeight, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QFont font(QStringLiteral("Times"));
+    font.setPixelSize(30);
+    QTextDocument document;
+    document.setDefaultFont(font);
+    document.setDocumentMargin(0);
+    document.setHtml(html);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    const QSizeF size = document.size();
+    painter.translate(4, (kOrderImageHeight - size.height()) / 2);
+    document.drawContents(&painter);
+    return image;
+}
+
+// A 40-pixel check box: a dark frame, with a tick when checked.
+QImage ImagePainter::drawCheckIndicator(bool checked)
+{
+    const int side = 40;
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(40, 40, 40), 3));
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(QRectF(2.5, 2.5, side - 5, side - 5), 5, 5);
+    if (checked) {
+        QPainterPath tick;
+        tick.moveTo(9, 21);
+        tick.lineTo(17, 30);
+        tick.lineTo(31, 10);
+        painter.setPen(QPen(QColor(0, 110, 0), 5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPath(tick);
+    }
+    return image;
+}
+
+// A red warning disc with an exclamation mark, marking where a sequence failed.
+QImage ImagePainter::drawErrorIcon()
+{
+    const int side = 48;
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(120, 0, 0), 2));
+    painter.setBrush(QColor(220, 30, 30));
+    painter.drawEllipse(QRectF(2, 2, side - 4, side - 4));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(QRectF(side / 2.0 - 3.5, 10, 7, 19), 3, 3);
+    painter.drawEllipse(QRectF(side / 2.0 - 4, 32, 8, 8));
     return image;
 }

@@ -19,4 +19,7 @@ private:
     // A formula written in HTML (italics, superscripts) in a serif font of the given pixel
     // size, on a transparent image just large enough to hold it.
     static QImage drawFormula(const QString& html, int pixelSize);
+    static QImage drawOrderFormula(const QString& html);
+    static QImage drawCheckIndicator(bool checked);
+    static QImage drawErrorIcon();
 };

@@ -3,6 +3,7 @@
 #include "ScreenshotTaker.h"
 
 #include <QApplication>
+#include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
 #include <cstdio>
@@ -43,7 +44,20 @@ int main(int argc, char* argv[])
              showTab(w, RootsTab);
              w.roots_useExample2();
          }},
-        {"associative-law-tab.png", [](MainWindow& w) { showTab(w, AssoTab); }},
+        {"associative-law-tab.png",
+         [](MainWindow& w) {
+             showTab(w, AssoTab);
+             // Running at top speed for a while: the window has slid in and moved on.
+             auto* pause = w.findChild<QPushButton*>(QStringLiteral("associativelaw_pause"));
+             auto* faster =
+                 w.findChild<QPushButton*>(QStringLiteral("associativelaw_acceleration"));
+             pause->click();
+             for (int i = 0; i < 5; ++i) {
+                 faster->click();
+             }
+             QTest::qWait(4000);
+             pause->click();
+         }},
     };
     for (const Scene& scene : scenes) {
         if (!taker.take(window, QString::fromLatin1(scene.fileName), scene.arrange)) {
