@@ -61,7 +61,7 @@ QString fileError(const std::string& error)
 } // namespace
 
 AssoOpenGLScene::AssoOpenGLScene(const AssoPanel& panel, QObject* parent)
-    : OpenGLPlotScene(parent), panel(panel)
+    : OpenGLPlotScene(parent), panel(panel), indexLabels(overlayFont())
 {
     colours = {{{128, 0, 128}, {0, 128, 128}, {255, 69, 0}, {128, 128, 0}, {0, 255, 0}}};
     for (int k = 0; k < kAssoOrderCount; ++k) {
@@ -708,22 +708,45 @@ void AssoOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
     painter->restore();
 }
 
+bool AssoOpenGLScene::XIndexLayerKey::operator==(const XIndexLayerKey& other) const
+{
+    return window.start == other.window.start && window.end == other.window.end &&
+           window.step == other.window.step &&
+           window.animationPosition == other.window.animationPosition && n == other.n &&
+           width == other.width && height == other.height;
+}
+
 void AssoOpenGLScene::drawXIndices(QPainter* painter) const
 {
-    painter->setFont(overlayFont());
-    painter->setPen(Qt::darkBlue);
-    const QFontMetrics metrics(overlayFont());
+    const XIndexLayerKey key{window, N, viewWidth, viewHeight};
+    if (!xIndexLayerKey || !(*xIndexLayerKey == key)) {
+        paintXIndexLayer();
+        xIndexLayerKey = key;
+    }
+    painter->drawImage(QPointF(0, 0), xIndexLayer);
+}
+
+// Each label reads downwards from the top edge: one quarter turn for all of them, so a label
+// at view x is drawn at (2, -(x + 2)) in the turned coordinates.
+void AssoOpenGLScene::paintXIndexLayer() const
+{
+    // The turned labels hang from the top edge as far as the longest one is wide.
+    const int lastIndex = std::max(std::min(window.end, N - 1), 0);
+    const int depth = std::min(indexLabels.width(lastIndex) + 4, std::max(viewHeight, 1));
+    xIndexLayer = QImage(std::max(viewWidth, 1), depth, QImage::Format_ARGB32_Premultiplied);
+    xIndexLayer.fill(Qt::transparent);
+    QPainter painter(&xIndexLayer);
+    painter.setFont(overlayFont());
+    painter.setPen(Qt::darkBlue);
+    painter.rotate(90);
+    const qreal ascent = QFontMetricsF(overlayFont()).ascent();
     for (int n = std::max(window.start, 0); n <= window.end && n < N; ++n) {
         if (!window.displays(n)) {
             continue;
         }
-        const QString text = qformat(cformat("%d", n));
-        const float x = nodePixelX(n) - float(metrics.horizontalAdvance(text)) / 2.0f;
-        painter->save();
-        painter->translate(x, 0);
-        painter->rotate(90);
-        painter->drawText(QPointF(2, -2), text);
-        painter->restore();
+        const float x = nodePixelX(n) - float(indexLabels.width(n)) / 2.0f;
+        // Static texts are placed by their top-left corner, text by its baseline.
+        painter.drawStaticText(QPointF(2, -(x + 2) - ascent), indexLabels.staticText(n));
     }
 }
 
@@ -742,16 +765,16 @@ void AssoOpenGLScene::drawYIndices(QPainter* painter) const
 void AssoOpenGLScene::drawXAxisLines(QPainter* painter) const
 {
     painter->setPen(Qt::darkBlue);
-    const QFontMetrics metrics(overlayFont());
+    std::vector<QLineF> lines;
     for (int n = std::max(window.start, 0); n <= window.end && n < N; ++n) {
         if (!window.displays(n)) {
             continue;
         }
         // Half a label's width left of the node, where its rotated label stands.
-        const float x =
-            nodePixelX(n) - float(metrics.horizontalAdvance(qformat(cformat("%d", n)))) / 2.0f;
-        painter->drawLine(QPointF(x, 0), QPointF(x, viewHeight));
+        const float x = nodePixelX(n) - float(indexLabels.width(n)) / 2.0f;
+        lines.emplace_back(x, 0, x, viewHeight);
     }
+    painter->drawLines(lines.data(), int(lines.size()));
 }
 
 void AssoOpenGLScene::drawYAxisLines(QPainter* painter) const

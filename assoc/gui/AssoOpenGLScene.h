@@ -4,11 +4,13 @@
 #include "engine/AssoPlotGeometry.h"
 #include "engine/AssoRecurrence.h"
 #include "gui/AssoPanel.h"
+#include "gui/IndexLabels.h"
 #include "gui/OpenGLPlotScene.h"
 
 #include <QImage>
 #include <QString>
 #include <array>
+#include <optional>
 #include <vector>
 
 class AssoFocusWindow;
@@ -133,6 +135,7 @@ private:
     void drawReferenceLines() const;
     void drawCurves() const;
     void drawXIndices(QPainter* painter) const;
+    void paintXIndexLayer() const;
     void drawYIndices(QPainter* painter) const;
     void drawXAxisLines(QPainter* painter) const;
     void drawYAxisLines(QPainter* painter) const;
@@ -186,4 +189,18 @@ private:
     QImage uncheckedImage;
     QImage errorImage;
     std::vector<ZoomEntry> zoomHistory;
+    // Index labels are the same on every frame; painting is const, the cache is not.
+    mutable quillon::IndexLabels indexLabels;
+    // The X index labels change only with the window and the view's size, yet a long window
+    // has thousands of them: they are painted into an image once per change and the image is
+    // drawn on every frame.
+    struct XIndexLayerKey {
+        AssoXWindow window;
+        int n;
+        int width;
+        int height;
+        bool operator==(const XIndexLayerKey& other) const;
+    };
+    mutable QImage xIndexLayer;
+    mutable std::optional<XIndexLayerKey> xIndexLayerKey;
 };
