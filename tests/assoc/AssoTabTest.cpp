@@ -69,6 +69,8 @@ private slots:
     void legendHoverHighlights();
     void errorIconHoverShowsMessages();
     void curveStopsAtItsFirstError();
+    void allOrdersOffLeavesTheLegendUnchecked();
+    void errorIconsFollowTheNextOrdersFlag();
     void selectionWindowSwitchesCurvesAndComparison();
     void colourMapAppliesAndResets();
     void colourMapPresetClick();
@@ -393,6 +395,56 @@ void AssoTabTest::curveStopsAtItsFirstError()
     const QColor purple(128, 0, 128);
     QVERIFY(hasColor(frame, purple, pixelOf(shown.start), pixelOf(42)));
     QVERIFY(!hasColor(frame, purple, pixelOf(42) + 3));
+}
+
+void AssoTabTest::allOrdersOffLeavesTheLegendUnchecked()
+{
+    const int h = view->height();
+    const QRect checkColumn(0, int(std::floor(0.75 * h)), view->width() / 15, h / 4);
+    const QColor tick(0, 110, 0);
+    QTRY_VERIFY(hasColor(grabPlot().copy(checkColumn), tick));
+    scene->allUnchoose();
+    const QImage frame = grabPlot();
+    QVERIFY(!hasColor(frame.copy(checkColumn), tick));
+    // The five rows are still there: their colour squares are drawn.
+    for (const auto& color : scene->colors()) {
+        QVERIFY(
+            hasColor(frame, QColor(color.red, color.green, color.blue), view->width() * 13 / 15));
+    }
+}
+
+void AssoTabTest::errorIconsFollowTheNextOrdersFlag()
+{
+    // R = 3.01, X0 = 0.5: at iteration 37 only order 1 (index 0) fails among the first four.
+    typeAndEnter("associativelaw_R_input", QStringLiteral("3.01"));
+    typeAndEnter("associativelaw_X_input", QStringLiteral("0.5"));
+    QVERIFY(scene->sequences().errors[0][37] != AssoOk);
+    for (int k = 1; k < 4; ++k) {
+        QCOMPARE(scene->sequences().errors[k][37], int32_t(AssoOk));
+    }
+    scene->setEndpoint(60);
+    child<QSlider>("associativelaw_time_slider")->setValue(30);
+    QCOMPARE(scene->xWindow().start, 30);
+    QTest::qWait(50);
+    const QPoint icon = scene->errorIconRect(37).center().toPoint();
+    QVERIFY(view->rect().contains(icon));
+    const QPoint away(5, 5);
+    QTest::mouseMove(view->viewport(), away);
+    QTRY_VERIFY(!scene->showsErrorMessages());
+    QTest::mouseMove(view->viewport(), icon);
+    QTRY_VERIFY(scene->showsErrorMessages());
+    // Order 1's icons hang on order 2's flag: with order 2 off there is no icon to hover.
+    scene->needFunc1(false);
+    QTest::mouseMove(view->viewport(), away);
+    QTest::mouseMove(view->viewport(), icon);
+    QTest::qWait(50);
+    QVERIFY(!scene->showsErrorMessages());
+    // Turning order 1 itself off does not hide its icons.
+    scene->needFunc1(true);
+    scene->needFunc0(false);
+    QTest::mouseMove(view->viewport(), away);
+    QTest::mouseMove(view->viewport(), icon);
+    QTRY_VERIFY(scene->showsErrorMessages());
 }
 
 void AssoTabTest::selectionWindowSwitchesCurvesAndComparison()
