@@ -1,5 +1,5 @@
 #include "engine/AssoFiles.h"
-#include "AssoGolden.h"
+#include "AssoTestSupport.h"
 
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -9,13 +9,6 @@ namespace
 
 const AssoColors kDefaults = {
     {{128, 0, 128}, {0, 128, 128}, {255, 69, 0}, {128, 128, 0}, {0, 255, 0}}};
-
-AssoSequences computed(float r, float x0, int n)
-{
-    AssoSequences sequences;
-    computeSequences(r, x0, n, sequences);
-    return sequences;
-}
 
 } // namespace
 

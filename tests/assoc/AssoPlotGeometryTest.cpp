@@ -1,16 +1,10 @@
 #include "engine/AssoPlotGeometry.h"
+#include "AssoTestSupport.h"
 
 #include <gtest/gtest.h>
 
 namespace
 {
-
-AssoSequences computed(float r, float x0, int n)
-{
-    AssoSequences sequences;
-    computeSequences(r, x0, n, sequences);
-    return sequences;
-}
 
 AssoPlotContent contentOf(const AssoSequences& sequences, int n, bool compare = false, int base = 0)
 {

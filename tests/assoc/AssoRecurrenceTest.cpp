@@ -1,4 +1,5 @@
 #include "engine/AssoRecurrence.h"
+#include "AssoTestSupport.h"
 
 #include <cfloat>
 #include <cmath>
@@ -18,13 +19,6 @@ uint32_t bitsOf(float value)
     uint32_t bits;
     std::memcpy(&bits, &value, sizeof bits);
     return bits;
-}
-
-AssoSequences computed(float r, float x0, int n)
-{
-    AssoSequences sequences;
-    computeSequences(r, x0, n, sequences);
-    return sequences;
 }
 
 } // namespace

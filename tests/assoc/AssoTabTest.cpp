@@ -1,4 +1,4 @@
-#include "AssoGolden.h"
+#include "AssoTestSupport.h"
 #include "GraphicsView.h"
 #include "GuiTestSupport.h"
 #include "MainWindow.h"

@@ -1,20 +1,14 @@
 #include "GoldenGrid.h"
 
+#include "TestFiles.h"
+
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <sstream>
 
 std::string goldenFile(const std::string& name)
 {
-    std::ifstream in(std::string(QUILLON_TEST_DATA_DIR) + "/" + name, std::ios::binary);
-    if (!in) {
-        std::fprintf(stderr, "missing golden file %s\n", name.c_str());
-        std::abort();
-    }
-    std::ostringstream text;
-    text << in.rdbuf();
-    return text.str();
+    return readTestFile(std::string(QUILLON_TEST_DATA_DIR) + "/" + name);
 }
 
 GoldenGrid GoldenGrid::load(const std::string& name)

@@ -1,0 +1,15 @@
+#include "AssoTestSupport.h"
+
+#include "TestFiles.h"
+
+std::string assoGolden(const std::string& name)
+{
+    return readTestFile(std::string(QUILLON_TEST_DATA_DIR) + "/" + name);
+}
+
+AssoSequences computed(float r, float x0, int n)
+{
+    AssoSequences sequences;
+    computeSequences(r, x0, n, sequences);
+    return sequences;
+}
