@@ -170,7 +170,7 @@ void MainWindow::installAuxiliaryWindow(AuxWindow window, QWidget* widget)
 void MainWindow::setFileRoutine(FileAction action, FileRoutine routine)
 {
     fileActions.setRoutine(action, std::move(routine));
-    enableActionFor(fileDialogSpec(action).slot);
+    enableActionFor(fileDialogSetup(action).slot);
 }
 
 GraphicsView* MainWindow::attachPlotView(QWidget* placeholder, QGraphicsScene* scene)

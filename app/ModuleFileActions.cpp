@@ -16,7 +16,7 @@ constexpr const char* kSaveConfFilter = "Documents (*.conf)";
 constexpr const char* kTxtFilter = "Documents (*.txt)";
 constexpr const char* kCsvFilter = "Documents (*.csv)";
 
-const FileDialogSpec kSpecs[] = {
+const FileDialogSetup kSetups[] = {
     {false, kSaveTitle, kTxtFilter, SLOT(roots_saveTXTFile())},
     {true, kOpenTitle, kConfFilter, SLOT(pentagon_openFile())},
     {false, kSaveTitle, kSaveConfFilter, SLOT(pentagon_saveFile())},
@@ -30,18 +30,18 @@ const FileDialogSpec kSpecs[] = {
     {false, kSaveTitle, kTxtFilter, SLOT(sine_saveTXTFile())},
     {false, kSaveTitle, kCsvFilter, SLOT(sine_saveCSVFile())},
 };
-static_assert(std::size(kSpecs) == static_cast<size_t>(FileAction::Count));
+static_assert(std::size(kSetups) == static_cast<size_t>(FileAction::Count));
 
 size_t indexOf(FileAction action)
 {
     return static_cast<size_t>(action);
 }
 
-QString askFileName(QWidget* parent, const FileDialogSpec& spec)
+QString askFileName(QWidget* parent, const FileDialogSetup& setup)
 {
-    const QString title = QObject::tr(spec.title);
-    const QString filter = QObject::tr(spec.filter);
-    if (spec.opensFile) {
+    const QString title = QObject::tr(setup.title);
+    const QString filter = QObject::tr(setup.filter);
+    if (setup.opensFile) {
         return QFileDialog::getOpenFileName(parent, title, QDir::currentPath(), filter);
     }
     return QFileDialog::getSaveFileName(parent, title, QDir::currentPath(), filter);
@@ -49,9 +49,9 @@ QString askFileName(QWidget* parent, const FileDialogSpec& spec)
 
 } // namespace
 
-const FileDialogSpec& fileDialogSpec(FileAction action)
+const FileDialogSetup& fileDialogSetup(FileAction action)
 {
-    return kSpecs[indexOf(action)];
+    return kSetups[indexOf(action)];
 }
 
 void ModuleFileActions::setRoutine(FileAction action, FileRoutine routine)
@@ -70,14 +70,14 @@ void ModuleFileActions::run(FileAction action, QWidget* parent) const
     if (!routine) {
         return;
     }
-    const FileDialogSpec& spec = fileDialogSpec(action);
-    const QString fileName = askFileName(parent, spec);
+    const FileDialogSetup& setup = fileDialogSetup(action);
+    const QString fileName = askFileName(parent, setup);
     if (fileName.isEmpty()) {
         return;
     }
     const QString error = routine(fileName);
     if (error.isEmpty()) {
-        std::printf("%s file %s done\n", spec.opensFile ? "open" : "save",
+        std::printf("%s file %s done\n", setup.opensFile ? "open" : "save",
                     fileName.toLocal8Bit().constData());
         std::fflush(stdout);
         return;

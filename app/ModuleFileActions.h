@@ -28,14 +28,14 @@ enum class FileAction {
 using FileRoutine = std::function<QString(const QString& fileName)>;
 
 // How one file action asks for its name.
-struct FileDialogSpec {
+struct FileDialogSetup {
     bool opensFile; // an open dialog; otherwise a save dialog
     const char* title;
     const char* filter;
     const char* slot; // the main-window slot that runs the action, in SLOT() form
 };
 
-const FileDialogSpec& fileDialogSpec(FileAction action);
+const FileDialogSetup& fileDialogSetup(FileAction action);
 
 // The modules' file routines, one per action, and the one dialog that all of them share.
 class ModuleFileActions
