@@ -5,8 +5,8 @@
 
 #include <chrono>
 #include <cstdio>
-#include <cstring>
 #include <spawn.h>
+#include <string>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -38,13 +38,20 @@ double secondsToFirstFrame()
         close(pipeEnds[0]);
         return -1.0;
     }
-    char line[16] = {};
-    const ssize_t count = read(pipeEnds[0], line, sizeof line - 1);
+    // The program prints other lines before (the Roots tab's trace); wait for "painted".
+    std::string output;
+    bool painted = false;
+    char chunk[256];
+    ssize_t count = 0;
+    while (!painted && (count = read(pipeEnds[0], chunk, sizeof chunk)) > 0) {
+        output.append(chunk, size_t(count));
+        painted = output.find("painted\n") != std::string::npos;
+    }
     const auto end = std::chrono::steady_clock::now();
     close(pipeEnds[0]);
     int status = 0;
     waitpid(child, &status, 0);
-    if (count <= 0 || std::strncmp(line, "painted", 7) != 0) {
+    if (!painted) {
         return -1.0;
     }
     return std::chrono::duration<double>(end - start).count();
