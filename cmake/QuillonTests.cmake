@@ -21,7 +21,8 @@ endfunction()
 
 # quillon_add_gui_test(NAME SOURCES ... LINK ...)
 # A Qt Test program run in its own virtual X server with Mesa's software OpenGL, so that
-# the plot views really draw.
+# the plot views really draw. Programs that start X servers run one at a time: two
+# "xvfb-run -a" starting together can pick the same display number.
 function(quillon_add_gui_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
@@ -32,5 +33,6 @@ function(quillon_add_gui_test name)
     add_test(NAME ${name} COMMAND ${QUILLON_XVFB_RUN} $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1;LC_ALL=C.UTF-8"
+        RESOURCE_LOCK x_server
         TIMEOUT 120)
 endfunction()
