@@ -44,6 +44,33 @@ const QStringList& orderFormulas()
     return formulas;
 }
 
+QImage transparentImage(QSize size)
+{
+    QImage image(size, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    return image;
+}
+
+// Formulas are set in a serif font of the given pixel size from HTML (italics, sub- and
+// superscripts).
+void typesetFormula(QTextDocument& document, const QString& html, int pixelSize, int margin)
+{
+    QFont font(QStringLiteral("Times"));
+    font.setPixelSize(pixelSize);
+    document.setDefaultFont(font);
+    document.setDocumentMargin(margin);
+    document.setHtml(html);
+}
+
+void paintFormula(QImage& image, QTextDocument& document, QPointF offset)
+{
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    painter.translate(offset);
+    document.drawContents(&painter);
+}
+
 // The formula images keep this width-to-height ratio; the legend scales them by it.
 constexpr int kOrderImageHeight = 52;
 constexpr int kOrderImageWidth = 769; // 769 / 52 = 14.788462
@@ -114,19 +141,10 @@ QImage ImagePainter::drawProgramIcon()
 
 QImage ImagePainter::drawFormula(const QString& html, int pixelSize)
 {
-    QFont font(QStringLiteral("Times"));
-    font.setPixelSize(pixelSize);
     QTextDocument document;
-    document.setDefaultFont(font);
-    document.setDocumentMargin(2);
-    document.setHtml(html);
-    const QSize size = document.size().toSize();
-    QImage image(size, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::TextAntialiasing);
-    document.drawContents(&painter);
+    typesetFormula(document, html, pixelSize, 2);
+    QImage image = transparentImage(document.size().toSize());
+    paintFormula(image, document, QPointF(0, 0));
     return image;
 }
 
@@ -134,20 +152,10 @@ QImage ImagePainter::drawFormula(const QString& html, int pixelSize)
 // as large as the height allows.
 QImage ImagePainter::drawOrderFormula(const QString& html)
 {
-    QImage image(kOrderImageWidth, kOrderImageHeight, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    QFont font(QStringLiteral("Times"));
-    font.setPixelSize(30);
     QTextDocument document;
-    document.setDefaultFont(font);
-    document.setDocumentMargin(0);
-    document.setHtml(html);
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::TextAntialiasing);
-    const QSizeF size = document.size();
-    painter.translate(4, (kOrderImageHeight - size.height()) / 2);
-    document.drawContents(&painter);
+    typesetFormula(document, html, 30, 0);
+    QImage image = transparentImage(QSize(kOrderImageWidth, kOrderImageHeight));
+    paintFormula(image, document, QPointF(4, (kOrderImageHeight - document.size().height()) / 2));
     return image;
 }
 
