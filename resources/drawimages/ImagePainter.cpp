@@ -117,8 +117,7 @@ QImage ImagePainter::draw(const QString& name)
 QImage ImagePainter::drawProgramIcon()
 {
     const int side = 128;
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    QImage image = transparentImage(QSize(side, side));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(40, 40, 40), 4));
@@ -163,8 +162,7 @@ QImage ImagePainter::drawOrderFormula(const QString& html)
 QImage ImagePainter::drawCheckIndicator(bool checked)
 {
     const int side = 40;
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    QImage image = transparentImage(QSize(side, side));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(40, 40, 40), 3));
@@ -186,8 +184,7 @@ QImage ImagePainter::drawCheckIndicator(bool checked)
 QImage ImagePainter::drawErrorIcon()
 {
     const int side = 48;
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
+    QImage image = transparentImage(QSize(side, side));
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(120, 0, 0), 2));
