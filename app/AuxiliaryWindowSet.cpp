@@ -1,4 +1,4 @@
-#include "AuxiliaryWindowSet.h"
+#include "app/AuxiliaryWindowSet.h"
 
 #include <QObject>
 #include <QWidget>

@@ -1,4 +1,4 @@
-#include "GraphicsView.h"
+#include "app/GraphicsView.h"
 
 #include <QResizeEvent>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "AuxiliaryWindowSet.h"
-#include "MenuTable.h"
-#include "ModuleFileActions.h"
+#include "app/AuxiliaryWindowSet.h"
+#include "app/MenuTable.h"
+#include "app/ModuleFileActions.h"
 
 #include <QMainWindow>
 #include <array>

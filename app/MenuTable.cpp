@@ -1,4 +1,4 @@
-#include "MenuTable.h"
+#include "app/MenuTable.h"
 
 #include <QObject>
 

@@ -1,4 +1,4 @@
-#include "ModuleFileActions.h"
+#include "app/ModuleFileActions.h"
 
 #include <QDir>
 #include <QFileDialog>

@@ -1,4 +1,4 @@
-#include "TabMenuSet.h"
+#include "app/TabMenuSet.h"
 
 #include <QAction>
 #include <QMenu>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "MenuTable.h"
+#include "app/MenuTable.h"
 
 #include <QList>
 #include <vector>

@@ -1,5 +1,5 @@
-#include "MainWindow.h"
-#include "gui/ImageLookup.h"
+#include "app/MainWindow.h"
+#include "common/gui/ImageLookup.h"
 
 #include <QApplication>
 #include <QIcon>

@@ -1,9 +1,9 @@
 // The associative-law module's costs: recomputing the five sequences, and painting one frame
 // of the plot (OpenGL background and painter foreground) for the default view and for the
 // heaviest view a user can reach.
-#include "MainWindow.h"
-#include "engine/AssoRecurrence.h"
-#include "gui/AssoOpenGLScene.h"
+#include "app/MainWindow.h"
+#include "assoc/engine/AssoRecurrence.h"
+#include "assoc/gui/AssoOpenGLScene.h"
 
 #include <QApplication>
 #include <QLineEdit>

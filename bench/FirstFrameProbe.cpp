@@ -1,6 +1,6 @@
 // Starts Quillon's main window exactly as the program does and prints "painted" on standard
 // output once the window's first frame has been painted, then quits.
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 
 #include <QApplication>
 #include <QEvent>

@@ -1,8 +1,8 @@
-#include "AssocCommand.h"
+#include "cli/AssocCommand.h"
 
-#include "core/FieldValidation.h"
-#include "engine/AssoFiles.h"
-#include "engine/AssoRecurrence.h"
+#include "assoc/engine/AssoFiles.h"
+#include "assoc/engine/AssoRecurrence.h"
+#include "common/core/FieldValidation.h"
 
 #include <QCommandLineParser>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CliCommand.h"
+#include "cli/CliCommand.h"
 
 // quillon-cli assoc: the associative-law tab's five sequences as its exports.
 class AssocCommand : public CliCommand

@@ -1,6 +1,6 @@
-#include "CliCommand.h"
+#include "cli/CliCommand.h"
 
-#include "core/SafeFileWriter.h"
+#include "common/core/SafeFileWriter.h"
 
 #include <QCommandLineParser>
 

@@ -1,8 +1,8 @@
-#include "RootsCommand.h"
+#include "cli/RootsCommand.h"
 
-#include "engine/RootsFieldRule.h"
-#include "engine/RootsSolver.h"
-#include "engine/RootsTextExport.h"
+#include "roots/engine/RootsFieldRule.h"
+#include "roots/engine/RootsSolver.h"
+#include "roots/engine/RootsTextExport.h"
 
 #include <QCommandLineParser>
 #include <optional>

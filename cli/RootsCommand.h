@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CliCommand.h"
+#include "cli/CliCommand.h"
 
 // quillon-cli roots: the Roots tab's grid for given coefficients, and its text export.
 class RootsCommand : public CliCommand

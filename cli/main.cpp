@@ -1,6 +1,6 @@
-#include "AssocCommand.h"
-#include "CliRunner.h"
-#include "RootsCommand.h"
+#include "cli/AssocCommand.h"
+#include "cli/CliRunner.h"
+#include "cli/RootsCommand.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "AssoColorPresets.h"
+#include "assoc/engine/AssoColorPresets.h"
 
 #include <cmath>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/ColorTriple.h"
+#include "common/core/ColorTriple.h"
 
 #include <array>
 

@@ -1,7 +1,7 @@
-#include "AssoFiles.h"
+#include "assoc/engine/AssoFiles.h"
 
-#include "core/CFormat.h"
-#include "core/WordReader.h"
+#include "common/core/CFormat.h"
+#include "common/core/WordReader.h"
 
 using quillon::cformat;
 

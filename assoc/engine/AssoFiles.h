@@ -1,7 +1,7 @@
 #pragma once
 
-#include "AssoRecurrence.h"
-#include "core/ColorTriple.h"
+#include "assoc/engine/AssoRecurrence.h"
+#include "common/core/ColorTriple.h"
 
 #include <array>
 #include <string>

@@ -1,4 +1,4 @@
-#include "AssoPlotGeometry.h"
+#include "assoc/engine/AssoPlotGeometry.h"
 
 #include <algorithm>
 #include <cmath>

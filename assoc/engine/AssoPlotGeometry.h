@@ -1,6 +1,6 @@
 #pragma once
 
-#include "AssoRecurrence.h"
+#include "assoc/engine/AssoRecurrence.h"
 
 #include <array>
 #include <optional>

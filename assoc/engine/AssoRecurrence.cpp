@@ -1,6 +1,6 @@
-#include "AssoRecurrence.h"
+#include "assoc/engine/AssoRecurrence.h"
 
-#include "core/SingleRange.h"
+#include "common/core/SingleRange.h"
 
 namespace
 {

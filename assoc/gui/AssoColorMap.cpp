@@ -1,8 +1,8 @@
-#include "gui/AssoColorMap.h"
+#include "assoc/gui/AssoColorMap.h"
 
-#include "engine/AssoColorPresets.h"
-#include "gui/AssoOpenGLScene.h"
-#include "gui/ImageLookup.h"
+#include "assoc/engine/AssoColorPresets.h"
+#include "assoc/gui/AssoOpenGLScene.h"
+#include "common/gui/ImageLookup.h"
 
 #include <QGroupBox>
 #include <QLabel>

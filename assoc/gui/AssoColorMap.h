@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/ColorTriple.h"
-#include "engine/AssoRecurrence.h"
+#include "assoc/engine/AssoRecurrence.h"
+#include "common/core/ColorTriple.h"
 
 #include <QWidget>
 #include <array>

@@ -1,8 +1,8 @@
-#include "gui/AssoFocusWindow.h"
+#include "assoc/gui/AssoFocusWindow.h"
 
-#include "core/CFormat.h"
-#include "gui/AssoOpenGLScene.h"
-#include "gui/CheckBoxStyle.h"
+#include "assoc/gui/AssoOpenGLScene.h"
+#include "common/core/CFormat.h"
+#include "common/gui/CheckBoxStyle.h"
 
 #include <QCheckBox>
 #include <QGridLayout>

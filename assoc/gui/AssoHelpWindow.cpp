@@ -1,4 +1,4 @@
-#include "gui/AssoHelpWindow.h"
+#include "assoc/gui/AssoHelpWindow.h"
 
 AssoHelpWindow::AssoHelpWindow(const QString& title) : HelpTextWindow(title, helpText()) {}
 

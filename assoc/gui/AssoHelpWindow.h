@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/HelpTextWindow.h"
+#include "common/gui/HelpTextWindow.h"
 
 // The associative-law tab's "About" window: why the five orders disagree.
 class AssoHelpWindow : public HelpTextWindow

@@ -1,12 +1,12 @@
-#include "gui/AssoOpenGLScene.h"
+#include "assoc/gui/AssoOpenGLScene.h"
 
-#include "core/CFormat.h"
-#include "core/SafeFileWriter.h"
-#include "core/TextFileReader.h"
-#include "gui/AssoFocusWindow.h"
-#include "gui/AssoSelectionWindow.h"
-#include "gui/GlPlotFrame.h"
-#include "gui/ImageLookup.h"
+#include "assoc/gui/AssoFocusWindow.h"
+#include "assoc/gui/AssoSelectionWindow.h"
+#include "common/core/CFormat.h"
+#include "common/core/SafeFileWriter.h"
+#include "common/core/TextFileReader.h"
+#include "common/gui/GlPlotFrame.h"
+#include "common/gui/ImageLookup.h"
 
 #include <GL/gl.h>
 #include <QDoubleValidator>

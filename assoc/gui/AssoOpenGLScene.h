@@ -1,11 +1,11 @@
 #pragma once
 
-#include "engine/AssoFiles.h"
-#include "engine/AssoPlotGeometry.h"
-#include "engine/AssoRecurrence.h"
-#include "gui/AssoPanel.h"
-#include "gui/IndexLabels.h"
-#include "gui/OpenGLPlotScene.h"
+#include "assoc/engine/AssoFiles.h"
+#include "assoc/engine/AssoPlotGeometry.h"
+#include "assoc/engine/AssoRecurrence.h"
+#include "assoc/gui/AssoPanel.h"
+#include "common/gui/IndexLabels.h"
+#include "common/gui/OpenGLPlotScene.h"
 
 #include <QImage>
 #include <QString>

@@ -1,4 +1,4 @@
-#include "gui/AssoPanel.h"
+#include "assoc/gui/AssoPanel.h"
 
 #include <QLabel>
 #include <QLineEdit>

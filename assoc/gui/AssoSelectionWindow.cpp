@@ -1,8 +1,8 @@
-#include "gui/AssoSelectionWindow.h"
+#include "assoc/gui/AssoSelectionWindow.h"
 
-#include "gui/AssoOpenGLScene.h"
-#include "gui/CheckBoxStyle.h"
-#include "gui/ImageLookup.h"
+#include "assoc/gui/AssoOpenGLScene.h"
+#include "common/gui/CheckBoxStyle.h"
+#include "common/gui/ImageLookup.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -1,4 +1,4 @@
-#include "gui/AssoUserMenu.h"
+#include "assoc/gui/AssoUserMenu.h"
 
 AssoUserMenu::AssoUserMenu(const QString& title) : HelpTextWindow(title, helpText()) {}
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/HelpTextWindow.h"
+#include "common/gui/HelpTextWindow.h"
 
 // The associative-law tab's "Help" window: what its menus and tool windows do.
 class AssoUserMenu : public HelpTextWindow

@@ -1,4 +1,4 @@
-#include "core/FieldValidation.h"
+#include "common/core/FieldValidation.h"
 
 #include <charconv>
 #include <cmath>

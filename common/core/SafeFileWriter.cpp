@@ -1,4 +1,4 @@
-#include "core/SafeFileWriter.h"
+#include "common/core/SafeFileWriter.h"
 
 #include <atomic>
 #include <cerrno>

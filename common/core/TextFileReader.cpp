@@ -1,4 +1,4 @@
-#include "core/TextFileReader.h"
+#include "common/core/TextFileReader.h"
 
 #include <cerrno>
 #include <cstring>

@@ -1,6 +1,6 @@
-#include "gui/CheckBoxStyle.h"
+#include "common/gui/CheckBoxStyle.h"
 
-#include "gui/ImageLookup.h"
+#include "common/gui/ImageLookup.h"
 
 namespace quillon
 {

@@ -1,4 +1,4 @@
-#include "gui/GlPlotFrame.h"
+#include "common/gui/GlPlotFrame.h"
 
 #include <QPaintDevice>
 #include <QPainter>

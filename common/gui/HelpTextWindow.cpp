@@ -1,4 +1,4 @@
-#include "gui/HelpTextWindow.h"
+#include "common/gui/HelpTextWindow.h"
 
 #include <QResizeEvent>
 #include <QTextBrowser>

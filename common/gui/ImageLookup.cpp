@@ -1,4 +1,4 @@
-#include "gui/ImageLookup.h"
+#include "common/gui/ImageLookup.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
-#include "gui/IndexLabels.h"
+#include "common/gui/IndexLabels.h"
 
-#include "core/CFormat.h"
+#include "common/core/CFormat.h"
 
 #include <QFontMetrics>
 

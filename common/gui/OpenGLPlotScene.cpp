@@ -1,4 +1,4 @@
-#include "gui/OpenGLPlotScene.h"
+#include "common/gui/OpenGLPlotScene.h"
 
 namespace quillon
 {

@@ -1,6 +1,6 @@
-#include "gui/PentagonOpenGLScene.h"
+#include "pentagon/gui/PentagonOpenGLScene.h"
 
-#include "gui/GlPlotFrame.h"
+#include "common/gui/GlPlotFrame.h"
 
 PentagonOpenGLScene::PentagonOpenGLScene(QObject* parent) : OpenGLPlotScene(parent) {}
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/OpenGLPlotScene.h"
+#include "common/gui/OpenGLPlotScene.h"
 
 // The pentagon tab's plot: the history of pentagons produced by In and Out operations,
 // drawn with OpenGL in the data range xMin..xMax by yMin..yMax.

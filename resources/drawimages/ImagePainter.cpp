@@ -1,4 +1,4 @@
-#include "ImagePainter.h"
+#include "resources/drawimages/ImagePainter.h"
 
 #include <QFont>
 #include <QPainter>

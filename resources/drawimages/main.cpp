@@ -1,5 +1,5 @@
 // Writes every image of the program into the folder named on the command line.
-#include "ImagePainter.h"
+#include "resources/drawimages/ImagePainter.h"
 
 #include <QDir>
 #include <QGuiApplication>

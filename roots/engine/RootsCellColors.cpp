@@ -1,4 +1,4 @@
-#include "RootsCellColors.h"
+#include "roots/engine/RootsCellColors.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "RootsGrid.h"
-#include "core/ColorTriple.h"
+#include "common/core/ColorTriple.h"
+#include "roots/engine/RootsGrid.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
-#include "RootsFieldRule.h"
+#include "roots/engine/RootsFieldRule.h"
 
-#include "core/FieldValidation.h"
+#include "common/core/FieldValidation.h"
 
 bool isAcceptableFieldText(const std::string& text, const RootsFieldRange& range)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "HighFloat.h"
+#include "roots/engine/HighFloat.h"
 
 // One quantity of the roots grid in the four precisions the Roots tab compares.
 struct RootsQuantity {

@@ -1,6 +1,6 @@
-#include "RootsSolver.h"
+#include "roots/engine/RootsSolver.h"
 
-#include "core/CFormat.h"
+#include "common/core/CFormat.h"
 
 #include <cmath>
 #include <utility>

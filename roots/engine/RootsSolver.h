@@ -1,8 +1,8 @@
 #pragma once
 
-#include "HighFloat.h"
-#include "RootsGrid.h"
-#include "RootsQuantity.h"
+#include "roots/engine/HighFloat.h"
+#include "roots/engine/RootsGrid.h"
+#include "roots/engine/RootsQuantity.h"
 
 #include <cstdio>
 #include <string>

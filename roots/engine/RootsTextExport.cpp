@@ -1,7 +1,7 @@
-#include "RootsTextExport.h"
+#include "roots/engine/RootsTextExport.h"
 
-#include "RootsSolver.h"
-#include "core/CFormat.h"
+#include "common/core/CFormat.h"
+#include "roots/engine/RootsSolver.h"
 
 using quillon::cformat;
 

@@ -1,4 +1,4 @@
-#include "gui/RootsHelpWindow.h"
+#include "roots/gui/RootsHelpWindow.h"
 
 RootsHelpWindow::RootsHelpWindow(const QString& title) : HelpTextWindow(title, helpText()) {}
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/HelpTextWindow.h"
+#include "common/gui/HelpTextWindow.h"
 
 // The Roots tab's "About" window: the three ways of solving the quadratic equation.
 class RootsHelpWindow : public HelpTextWindow

@@ -1,11 +1,11 @@
-#include "gui/RootsPage.h"
+#include "roots/gui/RootsPage.h"
 
-#include "core/CFormat.h"
-#include "core/SafeFileWriter.h"
-#include "engine/RootsCellColors.h"
-#include "engine/RootsFieldRule.h"
-#include "engine/RootsTextExport.h"
-#include "gui/ImageLookup.h"
+#include "common/core/CFormat.h"
+#include "common/core/SafeFileWriter.h"
+#include "common/gui/ImageLookup.h"
+#include "roots/engine/RootsCellColors.h"
+#include "roots/engine/RootsFieldRule.h"
+#include "roots/engine/RootsTextExport.h"
 
 #include <QDoubleValidator>
 #include <QGroupBox>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/RootsGrid.h"
-#include "engine/RootsSolver.h"
+#include "roots/engine/RootsGrid.h"
+#include "roots/engine/RootsSolver.h"
 
 #include <QString>
 #include <array>

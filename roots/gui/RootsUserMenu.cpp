@@ -1,4 +1,4 @@
-#include "gui/RootsUserMenu.h"
+#include "roots/gui/RootsUserMenu.h"
 
 RootsUserMenu::RootsUserMenu(const QString& title) : HelpTextWindow(title, helpText()) {}
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/HelpTextWindow.h"
+#include "common/gui/HelpTextWindow.h"
 
 // The Roots tab's "Help" window: what its menus do.
 class RootsUserMenu : public HelpTextWindow

@@ -1,6 +1,6 @@
-#include "gui/SineOpenGLScene.h"
+#include "sine/gui/SineOpenGLScene.h"
 
-#include "gui/GlPlotFrame.h"
+#include "common/gui/GlPlotFrame.h"
 
 SineOpenGLScene::SineOpenGLScene(QObject* parent) : OpenGLPlotScene(parent) {}
 

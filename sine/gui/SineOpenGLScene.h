@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gui/OpenGLPlotScene.h"
+#include "common/gui/OpenGLPlotScene.h"
 
 // The sine tab's plot: the Taylor partial sums of twelve approaches against the term index.
 // The background is drawn with OpenGL in a box that spans -1.5..1.5 horizontally and

@@ -1,4 +1,4 @@
-#include "engine/AssoColorPresets.h"
+#include "assoc/engine/AssoColorPresets.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "engine/AssoFiles.h"
-#include "AssoTestSupport.h"
+#include "assoc/engine/AssoFiles.h"
+#include "tests/assoc/AssoTestSupport.h"
 
 #include <cstdint>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "engine/AssoPlotGeometry.h"
-#include "AssoTestSupport.h"
+#include "assoc/engine/AssoPlotGeometry.h"
+#include "tests/assoc/AssoTestSupport.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "engine/AssoRecurrence.h"
-#include "AssoTestSupport.h"
+#include "assoc/engine/AssoRecurrence.h"
+#include "tests/assoc/AssoTestSupport.h"
 
 #include <cfloat>
 #include <cmath>

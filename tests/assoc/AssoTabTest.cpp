@@ -1,11 +1,11 @@
-#include "AssoTestSupport.h"
-#include "GraphicsView.h"
-#include "GuiTestSupport.h"
-#include "MainWindow.h"
-#include "gui/AssoColorMap.h"
-#include "gui/AssoFocusWindow.h"
-#include "gui/AssoOpenGLScene.h"
-#include "gui/AssoSelectionWindow.h"
+#include "app/GraphicsView.h"
+#include "app/MainWindow.h"
+#include "assoc/gui/AssoColorMap.h"
+#include "assoc/gui/AssoFocusWindow.h"
+#include "assoc/gui/AssoOpenGLScene.h"
+#include "assoc/gui/AssoSelectionWindow.h"
+#include "tests/assoc/AssoTestSupport.h"
+#include "tests/gui/GuiTestSupport.h"
 
 #include <QAction>
 #include <QCheckBox>

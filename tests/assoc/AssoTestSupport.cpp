@@ -1,6 +1,6 @@
-#include "AssoTestSupport.h"
+#include "tests/assoc/AssoTestSupport.h"
 
-#include "TestFiles.h"
+#include "tests/support/TestFiles.h"
 
 std::string assoGolden(const std::string& name)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/AssoRecurrence.h"
+#include "assoc/engine/AssoRecurrence.h"
 
 #include <string>
 

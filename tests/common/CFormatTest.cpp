@@ -1,4 +1,4 @@
-#include "core/CFormat.h"
+#include "common/core/CFormat.h"
 
 #include <clocale>
 #include <cmath>

@@ -1,5 +1,5 @@
-#include "core/SafeFileWriter.h"
-#include "TemporaryFolder.h"
+#include "common/core/SafeFileWriter.h"
+#include "tests/common/TemporaryFolder.h"
 
 #include <filesystem>
 #include <fstream>

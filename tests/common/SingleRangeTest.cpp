@@ -1,4 +1,4 @@
-#include "core/SingleRange.h"
+#include "common/core/SingleRange.h"
 
 #include <cfloat>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "TemporaryFolder.h"
+#include "tests/common/TemporaryFolder.h"
 
 #include <cstdlib>
 #include <filesystem>

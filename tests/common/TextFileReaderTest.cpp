@@ -1,5 +1,5 @@
-#include "core/TextFileReader.h"
-#include "TemporaryFolder.h"
+#include "common/core/TextFileReader.h"
+#include "tests/common/TemporaryFolder.h"
 
 #include <filesystem>
 #include <fstream>

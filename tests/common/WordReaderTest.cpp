@@ -1,4 +1,4 @@
-#include "core/WordReader.h"
+#include "common/core/WordReader.h"
 
 #include <climits>
 #include <gtest/gtest.h>

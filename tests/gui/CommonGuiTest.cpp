@@ -1,6 +1,6 @@
-#include "MainWindow.h"
-#include "core/CFormat.h"
-#include "gui/ImageLookup.h"
+#include "app/MainWindow.h"
+#include "common/core/CFormat.h"
+#include "common/gui/ImageLookup.h"
 
 #include <QTemporaryDir>
 #include <QtTest>

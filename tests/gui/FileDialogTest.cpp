@@ -1,5 +1,5 @@
-#include "GuiTestSupport.h"
-#include "MainWindow.h"
+#include "app/MainWindow.h"
+#include "tests/gui/GuiTestSupport.h"
 
 #include <QAction>
 #include <QFileDialog>

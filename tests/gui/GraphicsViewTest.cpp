@@ -1,6 +1,6 @@
-#include "GraphicsView.h"
-#include "MainWindow.h"
-#include "gui/GlPlotFrame.h"
+#include "app/GraphicsView.h"
+#include "app/MainWindow.h"
+#include "common/gui/GlPlotFrame.h"
 
 #include <GL/gl.h>
 #include <QOpenGLContext>

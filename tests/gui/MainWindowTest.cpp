@@ -1,7 +1,7 @@
-#include "MainWindow.h"
-#include "GraphicsView.h"
-#include "GuiTestSupport.h"
-#include "gui/OpenGLPlotScene.h"
+#include "app/MainWindow.h"
+#include "app/GraphicsView.h"
+#include "common/gui/OpenGLPlotScene.h"
+#include "tests/gui/GuiTestSupport.h"
 
 #include <QAction>
 #include <QCloseEvent>

@@ -1,6 +1,6 @@
-#include "GoldenGrid.h"
+#include "tests/roots/GoldenGrid.h"
 
-#include "TestFiles.h"
+#include "tests/support/TestFiles.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/RootsGrid.h"
+#include "roots/engine/RootsGrid.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "engine/HighFloat.h"
+#include "roots/engine/HighFloat.h"
 
 #include <cmath>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "engine/RootsCellColors.h"
+#include "roots/engine/RootsCellColors.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "engine/RootsFieldRule.h"
+#include "roots/engine/RootsFieldRule.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "GoldenGrid.h"
-#include "GuiTestSupport.h"
-#include "MainWindow.h"
-#include "engine/RootsFieldRule.h"
+#include "app/MainWindow.h"
+#include "roots/engine/RootsFieldRule.h"
+#include "tests/gui/GuiTestSupport.h"
+#include "tests/roots/GoldenGrid.h"
 
 #include <QAction>
 #include <QDoubleValidator>

@@ -1,6 +1,6 @@
-#include "engine/RootsTextExport.h"
-#include "GoldenGrid.h"
-#include "engine/RootsSolver.h"
+#include "roots/engine/RootsTextExport.h"
+#include "roots/engine/RootsSolver.h"
+#include "tests/roots/GoldenGrid.h"
 
 #include <cstdio>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
-#include "ScreenshotTaker.h"
+#include "tools/screenshots/ScreenshotTaker.h"
 
-#include "MainWindow.h"
+#include "app/MainWindow.h"
 
 #include <QDir>
 #include <QGuiApplication>

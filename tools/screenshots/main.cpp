@@ -1,6 +1,6 @@
 // Saves the README's screenshots of the program into the folder named on the command line.
-#include "MainWindow.h"
-#include "ScreenshotTaker.h"
+#include "app/MainWindow.h"
+#include "tools/screenshots/ScreenshotTaker.h"
 
 #include <QApplication>
 #include <QPushButton>
