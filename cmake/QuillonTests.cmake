@@ -21,8 +21,11 @@ endfunction()
 
 # quillon_add_gui_test(NAME SOURCES ... LINK ...)
 # A Qt Test program run in its own virtual X server with Mesa's software OpenGL, so that
-# the plot views really draw. Programs that start X servers run one at a time: two
-# "xvfb-run -a" starting together can pick the same display number.
+# the plot views really draw. It runs twice: under the C locale (NAME) and under a German
+# locale, whose decimal point is a comma (NAME_de_DE), since the application object switches
+# the C library to the user's locale and every module must behave the same under both.
+# Programs that start X servers run one at a time: two "xvfb-run -a" starting together can
+# pick the same display number.
 function(quillon_add_gui_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LINK" ${ARGN})
     add_executable(${name} ${ARG_SOURCES})
@@ -30,9 +33,16 @@ function(quillon_add_gui_test name)
     target_compile_definitions(${name} PRIVATE
         QUILLON_TEST_DATA_DIR="${CMAKE_CURRENT_SOURCE_DIR}/data")
     quillon_target_defaults(${name})
-    add_test(NAME ${name} COMMAND ${QUILLON_XVFB_RUN} $<TARGET_FILE:${name}>)
-    set_tests_properties(${name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1;LC_ALL=C.UTF-8"
+    quillon_add_gui_test_run(${name} ${name} "LC_ALL=C.UTF-8")
+    quillon_add_gui_test_run(${name}_de_DE ${name}
+        "LC_ALL=de_DE.UTF-8;QUILLON_EXPECT_LOCALE=de_DE.UTF-8")
+endfunction()
+
+# quillon_add_gui_test_run(TEST_NAME TARGET ENVIRONMENT): one run of a GUI test program.
+function(quillon_add_gui_test_run test_name target environment)
+    add_test(NAME ${test_name} COMMAND ${QUILLON_XVFB_RUN} $<TARGET_FILE:${target}>)
+    set_tests_properties(${test_name} PROPERTIES
+        ENVIRONMENT "QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1;${environment}"
         RESOURCE_LOCK x_server
         TIMEOUT 120)
 endfunction()

@@ -1,36 +1,13 @@
-#include "core/CFormat.h"
+#include "common/core/CFormat.h"
 
-#include <clocale>
+#include "common/core/CLocaleScope.h"
+
 #include <cstdarg>
 #include <cstdio>
-#include <locale.h>
 #include <vector>
 
 namespace quillon
 {
-namespace
-{
-
-locale_t cLocale()
-{
-    static const locale_t locale = newlocale(LC_ALL_MASK, "C", static_cast<locale_t>(nullptr));
-    return locale;
-}
-
-// Switches the calling thread to the C locale for the lifetime of the object.
-class CLocaleScope
-{
-public:
-    CLocaleScope() : previous(uselocale(cLocale())) {}
-    ~CLocaleScope() { uselocale(previous); }
-    CLocaleScope(const CLocaleScope&) = delete;
-    CLocaleScope& operator=(const CLocaleScope&) = delete;
-
-private:
-    locale_t previous;
-};
-
-} // namespace
 
 std::string cformat(const char* format, ...)
 {

@@ -1,4 +1,6 @@
-#include "HighFloat.h"
+#include "roots/engine/HighFloat.h"
+
+#include "common/core/CLocaleScope.h"
 
 HighFloat::HighFloat()
 {
@@ -7,7 +9,7 @@ HighFloat::HighFloat()
 
 HighFloat::HighFloat(const char* decimal) : HighFloat()
 {
-    mpf_set_str(value, decimal, 10);
+    parse(decimal);
 }
 
 HighFloat::HighFloat(const HighFloat& other) : HighFloat()
@@ -28,5 +30,8 @@ HighFloat::~HighFloat()
 
 int HighFloat::parse(const std::string& decimal)
 {
+    // GMP reads the decimal point of the C library's current locale; the texts are always
+    // written with '.'.
+    const quillon::CLocaleScope cLocale;
     return mpf_set_str(value, decimal.c_str(), 10);
 }

@@ -1,5 +1,7 @@
 #include "tests/cli/CliRun.h"
 
+#include <clocale>
+#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace
@@ -54,4 +56,18 @@ TEST(CliTopLevel, UnknownOptionIsAUsageError)
     const CliRun run = CliRun::of({QStringLiteral("--verbose")});
     EXPECT_EQ(run.exitCode, 2);
     expectOneErrorLine(run, QStringLiteral("verbose"));
+}
+
+// The runs under a German locale are only worth something when that locale exists: without
+// it the C library stays in the C locale and every number would pass anyway.
+TEST(CliTopLevel, RunsUnderTheLocaleItWasStartedFor)
+{
+    const char* expected = std::getenv("QUILLON_EXPECT_LOCALE");
+    if (expected == nullptr) {
+        GTEST_SKIP() << "started for the C locale";
+    }
+    const char* active = std::setlocale(LC_ALL, "");
+    ASSERT_NE(active, nullptr) << expected << " is not generated on this machine";
+    EXPECT_STREQ(std::localeconv()->decimal_point, ",");
+    std::setlocale(LC_ALL, "C");
 }

@@ -1,7 +1,8 @@
-#include "engine/RootsSolver.h"
-#include "GoldenGrid.h"
+#include "roots/engine/RootsSolver.h"
+#include "tests/roots/GoldenGrid.h"
 
 #include <chrono>
+#include <clocale>
 #include <cmath>
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -266,3 +267,43 @@ TEST(RootsSolver, UnknownExampleChangesNothing)
     quiet.solver.useExample(4);
     EXPECT_EQ(quiet.solver.showResults(), before);
 }
+
+namespace
+{
+
+// Puts the C library in a locale whose decimal point is a comma, as the application object
+// does for a user in Germany or France, and back to "C" at the end of the test.
+class CommaLocaleSolver : public ::testing::TestWithParam<const char*>
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_NE(std::setlocale(LC_ALL, GetParam()), nullptr)
+            << GetParam() << " is not generated on this machine (scripts/ensure-test-locale.sh)";
+        ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+    }
+    void TearDown() override { std::setlocale(LC_ALL, "C"); }
+};
+
+} // namespace
+
+TEST_P(CommaLocaleSolver, GivesTheSameGridsAsTheCLocale)
+{
+    QuietSolver startUp;
+    expectGrid(startUp.solver, "grid-startup.tsv");
+    EXPECT_EQ(startUp.trace(), "1000000.000000 4.000000 \n");
+    for (int example : {1, 2, 3}) {
+        QuietSolver quiet;
+        quiet.solver.useExample(example);
+        expectGrid(quiet.solver, "grid-example" + std::to_string(example) + ".tsv");
+    }
+    QuietSolver typed;
+    typed.solver.readA("1");
+    typed.solver.readB("-0.000708052");
+    typed.solver.readC("0.000000078");
+    typed.solver.recomputeAll();
+    expectGrid(typed.solver, "grid-tolerance-chain.tsv");
+}
+
+INSTANTIATE_TEST_SUITE_P(GermanAndFrench, CommaLocaleSolver,
+                         ::testing::Values("de_DE.UTF-8", "fr_FR.UTF-8"));
