@@ -1,10 +1,10 @@
 #include "common/core/SafeFileWriter.h"
 
-#include <atomic>
 #include <cerrno>
-#include <cstdio>
+#include <climits>
 #include <cstring>
 #include <fcntl.h>
+#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,15 +13,106 @@ namespace quillon
 namespace
 {
 
+// The kernel's own limit on symbolic links followed while resolving one path.
+constexpr int kMaxLinkHops = 40;
+// A clash of two random names is already unlikely; this many in a row means something is wrong.
+constexpr int kMaxTemporaryNameAttempts = 100;
+constexpr int kTemporaryNameRandomLength = 8;
+
+// Where the bytes go once the links are followed, and what is there now.
+struct WriteTarget {
+    std::string path;
+    bool exists = false;
+    struct stat info = {};
+};
+
 std::string describeFailure(const std::string& path, int errorNumber)
 {
     return "cannot write \"" + path + "\": " + std::strerror(errorNumber);
 }
 
-std::string temporarySibling(const std::string& path)
+bool isAbsolute(const std::string& path)
 {
-    static std::atomic<unsigned> counter{0};
-    return path + ".tmp-" + std::to_string(getpid()) + "-" + std::to_string(counter++);
+    return !path.empty() && path[0] == '/';
+}
+
+// The folder of `path` with its trailing '/', or "" for a bare name.
+std::string folderPrefix(const std::string& path)
+{
+    const size_t slash = path.rfind('/');
+    return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
+}
+
+// The text stored in the symbolic link at `path`. Returns false with errno set on failure.
+bool readLinkText(const std::string& path, std::string& text)
+{
+    std::string buffer(PATH_MAX, '\0');
+    const ssize_t length = ::readlink(path.c_str(), buffer.data(), buffer.size());
+    if (length < 0) {
+        return false;
+    }
+    if (static_cast<size_t>(length) == buffer.size()) {
+        errno = ENAMETOOLONG;
+        return false;
+    }
+    text.assign(buffer, 0, static_cast<size_t>(length));
+    return true;
+}
+
+// Follows the symbolic links at the end of `path` as opening it would, except that a missing
+// name ends the walk instead of failing: a dangling link names the file to create. realpath()
+// cannot be used because it fails for exactly that case.
+bool resolveTarget(const std::string& path, WriteTarget& target, int& failure)
+{
+    target.path = path;
+    for (int hops = 0;; ++hops) {
+        if (::lstat(target.path.c_str(), &target.info) != 0) {
+            failure = errno;
+            target.exists = false;
+            return failure == ENOENT;
+        }
+        if (!S_ISLNK(target.info.st_mode)) {
+            target.exists = true;
+            return true;
+        }
+        if (hops == kMaxLinkHops) {
+            failure = ELOOP;
+            return false;
+        }
+        std::string linkText;
+        if (!readLinkText(target.path, linkText)) {
+            failure = errno;
+            return false;
+        }
+        target.path = isAbsolute(linkText) ? linkText : folderPrefix(target.path) + linkText;
+    }
+}
+
+std::string randomTemporaryName()
+{
+    static const char kAlphabet[] =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+    thread_local std::mt19937 generator{std::random_device{}()};
+    std::uniform_int_distribution<size_t> pick(0, sizeof kAlphabet - 2);
+    std::string name = ".quillon-";
+    for (int i = 0; i < kTemporaryNameRandomLength; ++i) {
+        name += kAlphabet[pick(generator)];
+    }
+    return name;
+}
+
+// Creates a new empty file with a short random name in the folder `folder` (given as a
+// prefix), trying another name when one is taken. Returns the descriptor, or -1 with errno set.
+int createTemporaryFile(const std::string& folder, std::string& temporary)
+{
+    for (int attempt = 0; attempt < kMaxTemporaryNameAttempts; ++attempt) {
+        temporary = folder + randomTemporaryName();
+        const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (fd >= 0 || errno != EEXIST) {
+            return fd;
+        }
+    }
+    return -1;
 }
 
 bool writeAll(int fd, const std::string& contents)
@@ -42,12 +133,65 @@ bool writeAll(int fd, const std::string& contents)
     return true;
 }
 
-void keepExistingPermissions(int fd, const std::string& path)
+// Closes `fd` after the steps that gave `ok`; records the first failure, theirs or the close's.
+bool closeAfter(int fd, bool ok, int& failure)
 {
-    struct stat existing;
-    if (::stat(path.c_str(), &existing) == 0 && S_ISREG(existing.st_mode)) {
-        ::fchmod(fd, existing.st_mode & 07777);
+    if (!ok) {
+        failure = errno;
     }
+    if (::close(fd) != 0 && ok) {
+        failure = errno;
+        return false;
+    }
+    return ok;
+}
+
+bool keepPermissions(int fd, const WriteTarget& target)
+{
+    return !target.exists || ::fchmod(fd, target.info.st_mode & 07777) == 0;
+}
+
+bool replaceAtomically(const WriteTarget& target, const std::string& contents, int& failure)
+{
+    std::string temporary;
+    const int fd = createTemporaryFile(folderPrefix(target.path), temporary);
+    if (fd < 0) {
+        failure = errno;
+        return false;
+    }
+    const bool written = keepPermissions(fd, target) && writeAll(fd, contents) && ::fsync(fd) == 0;
+    bool ok = closeAfter(fd, written, failure);
+    if (ok && ::rename(temporary.c_str(), target.path.c_str()) != 0) {
+        failure = errno;
+        ok = false;
+    }
+    if (!ok) {
+        ::unlink(temporary.c_str());
+    }
+    return ok;
+}
+
+// A pipe or a device cannot be replaced by another file; its reader gets the bytes directly.
+bool writeInPlace(const WriteTarget& target, const std::string& contents, int& failure)
+{
+    const int fd = ::open(target.path.c_str(), O_WRONLY | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0) {
+        failure = errno;
+        return false;
+    }
+    return closeAfter(fd, writeAll(fd, contents), failure);
+}
+
+bool writeTo(const WriteTarget& target, const std::string& contents, int& failure)
+{
+    if (!target.exists || S_ISREG(target.info.st_mode)) {
+        return replaceAtomically(target, contents, failure);
+    }
+    if (S_ISDIR(target.info.st_mode)) {
+        failure = EISDIR;
+        return false;
+    }
+    return writeInPlace(target, contents, failure);
 }
 
 } // namespace
@@ -58,28 +202,13 @@ bool writeFileAtomically(const std::string& path, const std::string& contents, s
         error = "cannot write a file without a name";
         return false;
     }
-    const std::string temporary = temporarySibling(path);
-    const int fd = ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (fd < 0) {
-        error = describeFailure(path, errno);
+    WriteTarget target;
+    int failure = 0;
+    if (!resolveTarget(path, target, failure) || !writeTo(target, contents, failure)) {
+        error = describeFailure(path, failure);
         return false;
     }
-    keepExistingPermissions(fd, path);
-    bool ok = writeAll(fd, contents) && ::fsync(fd) == 0;
-    int failure = errno;
-    if (::close(fd) != 0 && ok) {
-        ok = false;
-        failure = errno;
-    }
-    if (ok && ::rename(temporary.c_str(), path.c_str()) != 0) {
-        ok = false;
-        failure = errno;
-    }
-    if (!ok) {
-        ::unlink(temporary.c_str());
-        error = describeFailure(path, failure);
-    }
-    return ok;
+    return true;
 }
 
 } // namespace quillon

@@ -1,5 +1,6 @@
 #include "common/core/TextFileReader.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -34,7 +35,8 @@ private:
 bool readTextFile(const std::string& path, size_t maxBytes, std::string& contents,
                   std::string& error)
 {
-    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    // Without O_NONBLOCK, opening a named pipe would wait for a writer that may never come.
+    const int fd = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (fd < 0) {
         error = describeFailure(path, std::strerror(errno));
         return false;
@@ -47,8 +49,8 @@ bool readTextFile(const std::string& path, size_t maxBytes, std::string& content
     }
     std::string buffer;
     char chunk[4096];
-    for (;;) {
-        const ssize_t count = ::read(fd, chunk, sizeof chunk);
+    while (buffer.size() < maxBytes) {
+        const ssize_t count = ::read(fd, chunk, std::min(sizeof chunk, maxBytes - buffer.size()));
         if (count < 0) {
             if (errno == EINTR) {
                 continue;
@@ -58,10 +60,6 @@ bool readTextFile(const std::string& path, size_t maxBytes, std::string& content
         }
         if (count == 0) {
             break;
-        }
-        if (buffer.size() + static_cast<size_t>(count) > maxBytes) {
-            error = describeFailure(path, "the file is too large");
-            return false;
         }
         buffer.append(chunk, static_cast<size_t>(count));
     }
