@@ -16,73 +16,38 @@ bool isDigit(char character)
 }
 
 // The characters of a number as the field's validator scans them: digits, at most one
-// decimal point (none in an integer) with at most `decimals` digits after it, a sign only at
-// the start, and group separators only right after a digit of the whole part. Returns the
-// text without its separators, or nothing when a character is out of place.
-std::optional<std::string> scanCharacters(const std::string& text, bool integer, int decimals)
+// decimal point (none in an integer) with at most `decimals` digits after it, and a sign only
+// at the start. Anything else, a group separator included, is out of place.
+bool hasOnlyNumberCharacters(const std::string& text, bool integer, int decimals)
 {
-    std::string kept;
     bool fractional = false;
-    char last = '\0';
-    for (char character : text) {
+    for (size_t i = 0; i < text.size(); ++i) {
+        const char character = text[i];
         if (isDigit(character)) {
             if (fractional && decimals-- == 0) {
-                return std::nullopt;
+                return false;
             }
         } else if (character == '.') {
             if (integer || fractional) {
-                return std::nullopt;
+                return false;
             }
             fractional = true;
-        } else if (character == '+' || character == '-') {
-            if (last != '\0') {
-                return std::nullopt;
-            }
-        } else if (character == ',') {
-            if (fractional || !isDigit(last)) {
-                return std::nullopt;
-            }
-        } else {
-            return std::nullopt;
-        }
-        last = character;
-        if (character != ',') {
-            kept += character;
+        } else if (character != '+' && character != '-') {
+            return false;
+        } else if (i != 0) {
+            return false;
         }
     }
-    return kept;
+    return true;
 }
 
-// The number a text denotes in the C locale: an optional sign, digits grouped by ','
-// correctly (one to three digits, then groups of exactly three) or not at all, an optional
-// fraction. Nothing for anything else.
-std::optional<double> parseCLocaleNumber(const std::string& text)
+// The number a text of number characters denotes: an optional sign, digits with an optional
+// fraction. Nothing when there is no digit.
+std::optional<double> parseNumber(const std::string& text)
 {
-    size_t position = 0;
     const bool negative = !text.empty() && text[0] == '-';
-    if (!text.empty() && (text[0] == '-' || text[0] == '+')) {
-        position = 1;
-    }
-    std::string digits;
-    int group = 0;
-    bool grouped = false;
-    for (; position < text.size() && text[position] != '.'; ++position) {
-        const char character = text[position];
-        if (character == ',') {
-            if (grouped ? group != 3 : (group < 1 || group > 3)) {
-                return std::nullopt;
-            }
-            grouped = true;
-            group = 0;
-        } else {
-            digits += character;
-            ++group;
-        }
-    }
-    if (grouped && group != 3) {
-        return std::nullopt;
-    }
-    digits += text.substr(position);
+    const size_t start = !text.empty() && (text[0] == '-' || text[0] == '+') ? 1 : 0;
+    const std::string digits = text.substr(start);
     if (digits.empty() || digits == ".") {
         return std::nullopt;
     }
@@ -108,20 +73,16 @@ int digitCount(long long value)
 
 FieldState validateDecimalField(const std::string& text, double bottom, double top, int decimals)
 {
-    const std::optional<std::string> kept = scanCharacters(text, false, decimals);
-    if (!kept) {
+    if (!hasOnlyNumberCharacters(text, false, decimals)) {
         return FieldState::Invalid;
     }
-    if (kept->empty()) {
+    if (text.empty()) {
         return FieldState::Intermediate;
     }
-    if (bottom >= 0 && (*kept)[0] == '-') {
+    if ((bottom >= 0 && text[0] == '-') || (top < 0 && text[0] == '+')) {
         return FieldState::Invalid;
     }
-    if (top < 0 && (*kept)[0] == '+') {
-        return FieldState::Invalid;
-    }
-    const std::optional<double> value = parseCLocaleNumber(text);
+    const std::optional<double> value = parseNumber(text);
     if (!value) {
         return FieldState::Intermediate;
     }
@@ -140,33 +101,32 @@ FieldState validateDecimalField(const std::string& text, double bottom, double t
 
 FieldState validateIntegerField(const std::string& text, int bottom, int top)
 {
-    const std::optional<std::string> kept = scanCharacters(text, true, 0);
-    if (!kept) {
+    if (!hasOnlyNumberCharacters(text, true, 0)) {
         return FieldState::Invalid;
     }
-    if (kept->empty()) {
+    if (text.empty()) {
         return FieldState::Intermediate;
     }
-    const bool minus = (*kept)[0] == '-';
-    const bool plus = (*kept)[0] == '+';
+    const bool minus = text[0] == '-';
+    const bool plus = text[0] == '+';
     if ((bottom >= 0 && minus) || (top < 0 && plus)) {
         return FieldState::Invalid;
     }
-    if (kept->size() == 1 && (minus || plus)) {
+    if (text.size() == 1 && (minus || plus)) {
         return FieldState::Intermediate;
     }
     long long entered = 0;
-    const char* begin = kept->data() + (plus ? 1 : 0);
-    const auto result = std::from_chars(begin, kept->data() + kept->size(), entered);
+    const char* begin = text.data() + (plus ? 1 : 0);
+    const auto result = std::from_chars(begin, text.data() + text.size(), entered);
     if (result.ec != std::errc()) {
         return FieldState::Invalid;
     }
     if (bottom <= entered && entered <= top) {
-        return parseCLocaleNumber(text) ? FieldState::Acceptable : FieldState::Intermediate;
+        return FieldState::Acceptable;
     }
     // The length that decides whether a number is too long to be still typed counts a minus
     // sign but not a plus sign.
-    const long long length = static_cast<long long>(kept->size()) - (plus ? 1 : 0);
+    const long long length = static_cast<long long>(text.size()) - (plus ? 1 : 0);
     if (entered >= 0) {
         const bool tooLong = entered > top && -entered < bottom &&
                              length > digitCount(std::llabs(static_cast<long long>(top)));

@@ -12,10 +12,11 @@ enum class FieldState { Invalid, Intermediate, Acceptable };
 
 // The judgement of a decimal field in the C locale with standard notation (no exponent),
 // accepting bottom..top with at most `decimals` digits after the point. Group separators
-// (',') are allowed where the C locale groups digits, as the program's fields allow them.
+// (',') are refused, as the program's fields refuse them.
 FieldState validateDecimalField(const std::string& text, double bottom, double top, int decimals);
 
-// The judgement of an integer field in the C locale accepting bottom..top.
+// The judgement of an integer field in the C locale accepting bottom..top, group separators
+// refused.
 FieldState validateIntegerField(const std::string& text, int bottom, int top);
 
 } // namespace quillon

@@ -76,9 +76,9 @@ TEST(AssocCli, BadInputIsOneLineAndWritesNothing)
     QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("out.csv"));
     const QList<QStringList> cases = {
-        {"--n", "-1"},    {"--n", "100000"},  {"--n", "1.5"}, {"--n", "abc"}, {"--r", "1e3"},
-        {"--r", "3.001"}, {"--x0", "100000"}, {"--x0", " 1"}, {"--bogus"},    {"stray"},
-        {"--r"}};
+        {"--n", "-1"},    {"--n", "100000"},  {"--n", "1.5"},  {"--n", "abc"},  {"--r", "1e3"},
+        {"--r", "3.001"}, {"--x0", "100000"}, {"--x0", " 1"},  {"--bogus"},     {"stray"},
+        {"--r"},          {"--r", "1,000"},   {"--x0", "1,5"}, {"--n", "1,000"}};
     for (QStringList arguments : cases) {
         const QString shown = arguments.join(QLatin1Char(' '));
         arguments << QStringLiteral("--csv") << path;

@@ -1,9 +1,14 @@
 #include "tests/cli/CliRun.h"
+#include "tests/common/FileSizeLimit.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -25,6 +30,24 @@ QString lastLine(const QString& text)
 {
     const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     return lines.isEmpty() ? QString() : lines.last();
+}
+
+QByteArray contentsOf(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing file>");
+}
+
+bool writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
+}
+
+QStringList entriesIn(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden |
+                                  QDir::System);
 }
 
 } // namespace
@@ -93,6 +116,8 @@ TEST(RootsCli, BadInputIsOneLineAndWritesNothing)
         {"--b", "123456789"},
         {"--c", ""},
         {"--c", "1.0000000001"},
+        {"--b", "1,000"},
+        {"--a", "1,5"},
         {"--frobnicate"},
         {"extra"},
         {"--a"},
@@ -113,16 +138,103 @@ TEST(RootsCli, BadInputIsOneLineAndWritesNothing)
 TEST(RootsCli, UnwritableExportIsAFileErrorWithNoPartialFile)
 {
     QTemporaryDir folder;
-    for (const QString& path : {folder.filePath(QStringLiteral("missing/out.txt")), folder.path(),
-                                QStringLiteral("/proc/quillon-roots.txt")}) {
+    const QString plainFile = folder.filePath(QStringLiteral("plain.txt"));
+    ASSERT_TRUE(writeFile(plainFile, "old bytes"));
+    for (const QString& path :
+         {folder.filePath(QStringLiteral("missing/out.txt")), folder.path(),
+          plainFile + QStringLiteral("/out.txt"), QStringLiteral("/proc/quillon-roots.txt")}) {
         const CliRun run = roots({"--txt", path});
         EXPECT_EQ(run.exitCode, 1) << path.toStdString();
         EXPECT_TRUE(lastLine(run.err).startsWith(
             QStringLiteral("quillon-cli roots: cannot write \"%1\"").arg(path)))
             << run.err.toStdString();
     }
-    EXPECT_EQ(QDir(folder.path()).entryList(QDir::NoDotAndDotDot | QDir::AllEntries),
-              QStringList());
+    EXPECT_EQ(contentsOf(plainFile), QByteArray("old bytes"));
+    EXPECT_EQ(entriesIn(folder.path()), QStringList{QStringLiteral("plain.txt")});
+}
+
+TEST(RootsCli, ExportCutShortLeavesTheOldFileUntouched)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("export.txt"));
+    ASSERT_TRUE(writeFile(path, "old bytes"));
+    CliRun run;
+    {
+        const FileSizeLimit diskAlmostFull(100);
+        run = roots({"--example", "3", "--txt", path});
+    }
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(lastLine(run.err).startsWith(
+        QStringLiteral("quillon-cli roots: cannot write \"%1\": ").arg(path)))
+        << run.err.toStdString();
+    EXPECT_EQ(contentsOf(path), QByteArray("old bytes"));
+    EXPECT_EQ(entriesIn(folder.path()), QStringList{QStringLiteral("export.txt")});
+}
+
+TEST(RootsCli, ReadOnlyFolderLeavesTheOldFileUntouched)
+{
+    if (::geteuid() == 0) {
+        GTEST_SKIP() << "the superuser writes into read-only folders";
+    }
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("export.txt"));
+    ASSERT_TRUE(writeFile(path, "old bytes"));
+    ASSERT_TRUE(QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::ExeOwner));
+    const CliRun run = roots({"--example", "3", "--txt", path});
+    QFile::setPermissions(folder.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_TRUE(lastLine(run.err).startsWith(
+        QStringLiteral("quillon-cli roots: cannot write \"%1\": ").arg(path)))
+        << run.err.toStdString();
+    EXPECT_EQ(contentsOf(path), QByteArray("old bytes"));
+    EXPECT_EQ(entriesIn(folder.path()), QStringList{QStringLiteral("export.txt")});
+}
+
+TEST(RootsCli, WritesThroughALinkAndKeepsIt)
+{
+    QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("links")));
+    ASSERT_TRUE(QDir(folder.path()).mkdir(QStringLiteral("files")));
+    const QString target = folder.filePath(QStringLiteral("files/export.txt"));
+    const QString link = folder.filePath(QStringLiteral("links/export.txt"));
+    ASSERT_TRUE(writeFile(target, "old bytes"));
+    ASSERT_TRUE(QFile::link(target, link));
+    const CliRun run = roots({"--example", "3", "--txt", link});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_EQ(lastLine(run.err), QStringLiteral("save file %1 done").arg(link));
+    EXPECT_TRUE(QFileInfo(link).isSymLink());
+    EXPECT_EQ(QFileInfo(link).symLinkTarget(), target);
+    EXPECT_EQ(QString::fromUtf8(contentsOf(target)), golden("export-example3.txt"));
+    EXPECT_EQ(entriesIn(folder.filePath(QStringLiteral("links"))), QStringList{"export.txt"});
+    EXPECT_EQ(entriesIn(folder.filePath(QStringLiteral("files"))), QStringList{"export.txt"});
+}
+
+TEST(RootsCli, ReaderOfANamedPipeReceivesTheExport)
+{
+    QTemporaryDir folder;
+    const QString fifo = folder.filePath(QStringLiteral("pipe"));
+    ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+    QProcess reader;
+    reader.start(QStringLiteral("cat"), {fifo});
+    ASSERT_TRUE(reader.waitForStarted());
+    const CliRun run = roots({"--example", "3", "--txt", fifo});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_TRUE(reader.waitForFinished(10000)) << "the reader never saw the end of the export";
+    EXPECT_EQ(QString::fromUtf8(reader.readAllStandardOutput()), golden("export-example3.txt"));
+    struct stat info;
+    ASSERT_EQ(::lstat(QFile::encodeName(fifo).constData(), &info), 0);
+    EXPECT_TRUE(S_ISFIFO(info.st_mode));
+}
+
+TEST(RootsCli, LongestNamesSave)
+{
+    QTemporaryDir folder;
+    const QString name = QString(246, QLatin1Char('r')) + QStringLiteral(".txt");
+    ASSERT_EQ(name.toUtf8().size(), 250);
+    const CliRun run = roots({"--example", "3", "--txt", folder.filePath(name)});
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_EQ(QString::fromUtf8(contentsOf(folder.filePath(name))), golden("export-example3.txt"));
+    EXPECT_EQ(entriesIn(folder.path()), QStringList{name});
 }
 
 TEST(RootsCli, HelpDescribesTheOptions)

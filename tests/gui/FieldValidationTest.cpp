@@ -1,9 +1,11 @@
 #include "common/core/FieldValidation.h"
+#include "common/gui/FieldValidators.h"
 
 #include <QDoubleValidator>
 #include <QIntValidator>
 #include <QRandomGenerator>
 #include <QtTest>
+#include <memory>
 
 using quillon::FieldState;
 
@@ -131,14 +133,13 @@ void FieldValidationTest::decimalFieldsJudgeLikeTheirValidators()
     QFETCH(double, bottom);
     QFETCH(double, top);
     QFETCH(int, decimals);
-    QDoubleValidator validator(bottom, top, decimals);
-    validator.setLocale(QLocale::c());
-    validator.setNotation(QDoubleValidator::StandardNotation);
+    std::unique_ptr<QDoubleValidator> validator(
+        quillon::decimalFieldValidator(bottom, top, decimals, nullptr));
     for (QString text : corpus()) {
         const FieldState ours =
             quillon::validateDecimalField(text.toStdString(), bottom, top, decimals);
         int position = 0;
-        QVERIFY2(validator.validate(text, position) == toQt(ours),
+        QVERIFY2(validator->validate(text, position) == toQt(ours),
                  qPrintable(QStringLiteral("'%1'").arg(text)));
     }
 }
@@ -155,12 +156,11 @@ void FieldValidationTest::integerFieldsJudgeLikeTheirValidators()
 {
     QFETCH(int, bottom);
     QFETCH(int, top);
-    QIntValidator validator(bottom, top);
-    validator.setLocale(QLocale::c());
+    std::unique_ptr<QIntValidator> validator(quillon::integerFieldValidator(bottom, top, nullptr));
     for (QString text : corpus()) {
         const FieldState ours = quillon::validateIntegerField(text.toStdString(), bottom, top);
         int position = 0;
-        QVERIFY2(validator.validate(text, position) == toQt(ours),
+        QVERIFY2(validator->validate(text, position) == toQt(ours),
                  qPrintable(QStringLiteral("'%1'").arg(text)));
     }
 }
