@@ -8,6 +8,7 @@
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "assoc/gui/AssoSelectionWindow.h"
 #include "assoc/gui/AssoUserMenu.h"
+#include "common/gui/TabPageArea.h"
 #include "pentagon/gui/PentagonOpenGLScene.h"
 #include "roots/gui/RootsHelpWindow.h"
 #include "roots/gui/RootsPage.h"
@@ -60,6 +61,7 @@ MainWindow::MainWindow(QWidget* parent)
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MainWindow::tab_Index_Changed);
     tab_Index_Changed(RootsTab);
     layOutPages(kInitialContentWidth, kInitialContentHeight);
+    ui->roots_win->parentWidget()->installEventFilter(this);
 }
 
 MainWindow::~MainWindow() = default;
@@ -228,6 +230,17 @@ void MainWindow::resizeEvent(QResizeEvent* event)
     layOutPages(event->size().width(), event->size().height() - kMenuBarAllowance);
 }
 
+// The pages are laid out in the area of the tab widget's page stack, which the tab widget
+// sizes only after the window's own resize event when the window is first shown; so the
+// pages are laid out again whenever that area changes.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Resize && watched == ui->roots_win->parentWidget()) {
+        layOutPages(width(), height() - kMenuBarAllowance);
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
 // Lays out every page, hidden ones included, so that a tab looks right the moment it is
 // chosen.
 void MainWindow::layOutPages(int width, int height)
@@ -239,16 +252,18 @@ void MainWindow::layOutPages(int width, int height)
     layOutPlotPage(ui->sine_VisWindow, ui->sine_ControlWindow, sineView, width, height);
 }
 
-// The plot takes the left three quarters of the page, the control panel the rest.
+// The control panel takes a quarter of the page, or the width its widgets need when that is
+// more; the plot fills the rest. Both span the page's full height.
 void MainWindow::layOutPlotPage(QWidget* placeholder, QWidget* panel, GraphicsView* view, int width,
                                 int height)
 {
+    const QSize area = quillon::tabPageArea(placeholder->parentWidget(), QSize(width, height));
     const int gap = 6;
-    const int plotWidth = width * 3 / 4;
-    const int pageHeight = height - 44;
-    placeholder->setGeometry(0, 0, plotWidth, pageHeight);
+    const int panelWidth = qMax(area.width() / 4, panel->minimumSizeHint().width());
+    const int plotWidth = area.width() - panelWidth - 2 * gap;
+    placeholder->setGeometry(0, 0, plotWidth, area.height());
     view->setGeometry(placeholder->rect());
-    panel->setGeometry(plotWidth + gap, 0, width - plotWidth - 2 * gap - 4, pageHeight);
+    panel->setGeometry(plotWidth + gap, 0, panelWidth, area.height());
 }
 
 void MainWindow::roots_updateA()

@@ -2,7 +2,9 @@
 
 #include "assoc/engine/AssoColorPresets.h"
 #include "assoc/gui/AssoOpenGLScene.h"
+#include "common/gui/GroupBoxStyle.h"
 #include "common/gui/ImageLookup.h"
+#include "common/gui/QtColor.h"
 
 #include <QGroupBox>
 #include <QLabel>
@@ -21,7 +23,7 @@ AssoColorMap::AssoColorMap(AssoOpenGLScene* scene)
 {
     setWindowTitle(tr("Color map"));
     setFont(QFont(QStringLiteral("Arial")));
-    targetGroup->setStyleSheet(QStringLiteral("QGroupBox{border:2px solid black}"));
+    targetGroup->setStyleSheet(quillon::groupBoxStyleSheet());
     auto* targetLayout = new QVBoxLayout(targetGroup);
     for (int k = 0; k < kAssoOrderCount; ++k) {
         targets[k] = new QRadioButton;
@@ -49,7 +51,7 @@ AssoColorMap::AssoColorMap(AssoOpenGLScene* scene)
     connect(sliders[2], &QSlider::valueChanged, this, &AssoColorMap::Bchanged);
     connect(apply, &QPushButton::clicked, this, &AssoColorMap::applyColorChange);
     connect(reset, &QPushButton::clicked, this, &AssoColorMap::resetColorChange);
-    resize(440, 528);
+    resize(440, 550);
     refresh();
 }
 
@@ -149,9 +151,7 @@ void AssoColorMap::refresh()
         sliders[i]->setValue(components[i]);
     }
     QPalette palette = preview->palette();
-    palette.setColor(QPalette::Window,
-                     QColor(qBound(0, editing.red, 255), qBound(0, editing.green, 255),
-                            qBound(0, editing.blue, 255)));
+    palette.setColor(QPalette::Window, quillon::toQColor(editing));
     preview->setPalette(palette);
 }
 
@@ -166,7 +166,7 @@ void AssoColorMap::paintEvent(QPaintEvent*)
         for (int column = 0; column < kAssoPresetColumns; ++column) {
             const quillon::ColorTriple& color = presets[column + kAssoPresetColumns * row];
             const QRect cell(column * cellWidth, gridTop + row * cellHeight, cellWidth, cellHeight);
-            painter.fillRect(cell, QColor(color.red, color.green, color.blue));
+            painter.fillRect(cell, quillon::toQColor(color));
             painter.setPen(Qt::black);
             painter.drawRect(cell.adjusted(0, 0, -1, -1));
         }

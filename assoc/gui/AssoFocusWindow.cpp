@@ -3,6 +3,7 @@
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "common/core/CFormat.h"
 #include "common/gui/CheckBoxStyle.h"
+#include "common/gui/GroupBoxStyle.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -26,6 +27,9 @@ AssoFocusWindow::AssoFocusWindow(AssoOpenGLScene* scene)
     startPoint = addSlider(xGrid, 0, tr("Start point"), startValue);
     endPoint = addSlider(xGrid, 1, tr("End point"), endValue);
     stepSize = addSlider(xGrid, 2, tr("Step size"), stepValue);
+    startValue->setObjectName(QStringLiteral("startValue"));
+    endValue->setObjectName(QStringLiteral("endValue"));
+    stepValue->setObjectName(QStringLiteral("stepValue"));
     fixNodes->setStyleSheet(quillon::checkBoxStyleSheet());
     xGrid->addWidget(fixNodes, 3, 0, 1, 3);
 
@@ -36,7 +40,7 @@ AssoFocusWindow::AssoFocusWindow(AssoOpenGLScene* scene)
     yGrid->addWidget(new QLabel(tr("Y Max:")), 1, 0);
     yGrid->addWidget(yMax, 1, 1);
     for (QGroupBox* group : {xGroup, yGroup}) {
-        group->setStyleSheet(QStringLiteral("QGroupBox{border:2px solid black}"));
+        group->setStyleSheet(quillon::groupBoxStyleSheet());
     }
 
     auto* layout = new QVBoxLayout(this);

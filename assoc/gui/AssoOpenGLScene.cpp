@@ -5,13 +5,13 @@
 #include "common/core/CFormat.h"
 #include "common/core/SafeFileWriter.h"
 #include "common/core/TextFileReader.h"
+#include "common/gui/FieldValidators.h"
 #include "common/gui/GlPlotFrame.h"
 #include "common/gui/ImageLookup.h"
+#include "common/gui/QtColor.h"
 
 #include <GL/gl.h>
-#include <QDoubleValidator>
 #include <QGraphicsSceneMouseEvent>
-#include <QIntValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -89,17 +89,12 @@ void AssoOpenGLScene::computeSequences()
 void AssoOpenGLScene::refreshPanel()
 {
     panel.iterations->setText(qformat(cformat("%d", N)));
-    auto* countValidator = new QIntValidator(1, 10000, panel.iterations);
-    countValidator->setLocale(QLocale::c());
     delete panel.iterations->validator();
-    panel.iterations->setValidator(countValidator);
+    panel.iterations->setValidator(quillon::integerFieldValidator(1, 10000, panel.iterations));
     for (auto [edit, value] : {std::pair{panel.x0, X0}, std::pair{panel.r, R}}) {
         edit->setText(qformat(cformat("%f", double(value))));
-        auto* validator = new QDoubleValidator(-10000.0, 10000.0, 2, edit);
-        validator->setLocale(QLocale::c());
-        validator->setNotation(QDoubleValidator::StandardNotation);
         delete edit->validator();
-        edit->setValidator(validator);
+        edit->setValidator(quillon::decimalFieldValidator(-10000.0, 10000.0, 2, edit));
     }
 }
 
@@ -117,6 +112,7 @@ void AssoOpenGLScene::shiftWindowBack()
     window.end -= window.start;
     window.start = 0;
     window.animationPosition = 0;
+    refreshFocusWindow();
 }
 
 void AssoOpenGLScene::updateR()
@@ -144,7 +140,6 @@ void AssoOpenGLScene::updateMaxItera()
     panel.timeSlider->setMaximum(N - 20 * window.step - 1);
     panel.timeEnd->setText(qformat(cformat("%d", N - 20 * window.step - 1)));
     panel.mainWindow->update();
-    refreshFocusWindow();
     shiftWindowBack();
     repaint();
 }
@@ -879,7 +874,7 @@ void AssoOpenGLScene::drawLegend(QPainter* painter) const
                                   formulaHeight * formulaAspect, formulaHeight),
                            formulaImages[k]);
         painter->fillRect(QRect(13 * columnWidth + (columnWidth - side) / 2, squareTop, side, side),
-                          QColor(colours[k].red, colours[k].green, colours[k].blue));
+                          quillon::toQColor(colours[k]));
     }
 }
 

@@ -2,6 +2,7 @@
 
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "common/gui/CheckBoxStyle.h"
+#include "common/gui/GroupBoxStyle.h"
 #include "common/gui/ImageLookup.h"
 
 #include <QButtonGroup>
@@ -55,7 +56,7 @@ AssoSelectionWindow::AssoSelectionWindow(AssoOpenGLScene* scene)
         baseLayout->addWidget(bases[k]);
     }
     for (QGroupBox* group : {functions, baseGroup}) {
-        group->setStyleSheet(QStringLiteral("QGroupBox{border:2px solid black}"));
+        group->setStyleSheet(quillon::groupBoxStyleSheet());
     }
     auto* layout = new QHBoxLayout(this);
     layout->addWidget(functions);
@@ -78,9 +79,24 @@ AssoSelectionWindow::AssoSelectionWindow(AssoOpenGLScene* scene)
 
 void AssoSelectionWindow::setChecks()
 {
+    const bool comparing = comparison->isChecked();
     for (QRadioButton* base : bases) {
-        base->setCheckable(comparison->isChecked());
+        base->setCheckable(comparing);
+        // Changing checkability clears the check mark without repainting the button.
+        base->update();
     }
+    if (comparing) {
+        showBaseOrder();
+    }
+}
+
+// Checked through the exclusive group, which unchecks whichever button it last knew as
+// checked; the scene ignores that button's toggled(false).
+void AssoSelectionWindow::showBaseOrder()
+{
+    QRadioButton* base = bases[scene->baseFunction()];
+    const QSignalBlocker blocker(base);
+    base->setChecked(true);
 }
 
 void AssoSelectionWindow::synchronise()
@@ -93,10 +109,5 @@ void AssoSelectionWindow::synchronise()
         const QSignalBlocker blocker(comparison);
         comparison->setChecked(scene->isComparing());
     }
-    for (QRadioButton* base : bases) {
-        base->setCheckable(true);
-    }
-    const QSignalBlocker blocker(bases[scene->baseFunction()]);
-    bases[scene->baseFunction()]->setChecked(true);
     setChecks();
 }

@@ -26,10 +26,13 @@ public:
     QCheckBox* comparisonCheckBox() const { return comparison; }
 
 public slots:
-    // The base buttons can be chosen only while comparison is on.
+    // The base buttons can be chosen only while comparison is on; while it is, the scene's
+    // base order is the one shown as checked.
     void setChecks();
 
 private:
+    void showBaseOrder();
+
     AssoOpenGLScene* scene;
     std::array<QCheckBox*, kAssoOrderCount> orders{};
     std::array<QRadioButton*, kAssoOrderCount> bases{};

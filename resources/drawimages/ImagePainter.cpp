@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QTextDocument>
+#include <QtMath>
 #include <map>
 
 namespace
@@ -26,6 +27,11 @@ const std::map<QString, std::pair<QString, int>>& formulaImages()
     };
     return formulas;
 }
+
+// The radicand of the Roots page's square-root heading, drawn under a radical sign.
+const QString kDiscriminantImage = QStringLiteral("b2-4ac.png");
+const QString kDiscriminantHtml = QStringLiteral("<i>b</i><sup>2</sup> &minus; 4<i>a</i><i>c</i>");
+constexpr int kDiscriminantPixelSize = 20;
 
 // The associative law's five evaluation orders, in the order of the engine.
 const QStringList& orderFormulas()
@@ -83,6 +89,7 @@ QStringList ImagePainter::imageNames()
     for (const auto& formula : formulaImages()) {
         names << formula.first;
     }
+    names << kDiscriminantImage;
     for (int k = 1; k <= orderFormulas().size(); ++k) {
         names << QStringLiteral("func%1.png").arg(k);
     }
@@ -98,6 +105,9 @@ QImage ImagePainter::draw(const QString& name)
     const auto formula = formulaImages().find(name);
     if (formula != formulaImages().end()) {
         return drawFormula(formula->second.first, formula->second.second);
+    }
+    if (name == kDiscriminantImage) {
+        return drawSquareRoot(kDiscriminantHtml, kDiscriminantPixelSize);
     }
     for (int k = 1; k <= orderFormulas().size(); ++k) {
         if (name == QStringLiteral("func%1.png").arg(k)) {
@@ -144,6 +154,33 @@ QImage ImagePainter::drawFormula(const QString& html, int pixelSize)
     typesetFormula(document, html, pixelSize, 2);
     QImage image = transparentImage(document.size().toSize());
     paintFormula(image, document, QPointF(0, 0));
+    return image;
+}
+
+// The radical sign is drawn as strokes: fonts draw the root symbol but not the bar over the
+// radicand, and the two would not join.
+QImage ImagePainter::drawSquareRoot(const QString& radicandHtml, int pixelSize)
+{
+    QTextDocument document;
+    typesetFormula(document, radicandHtml, pixelSize, 2);
+    const QSizeF radicand = document.size();
+    const qreal signWidth = pixelSize * 0.7;
+    const qreal barY = 2.5;
+    const QSize size(qCeil(signWidth + radicand.width() + 2), qCeil(radicand.height() + barY));
+    QImage image = transparentImage(size);
+    paintFormula(image, document, QPointF(signWidth, barY));
+
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::black, 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const qreal bottom = size.height() - 3;
+    QPainterPath sign;
+    sign.moveTo(1.5, bottom * 0.62);
+    sign.lineTo(signWidth * 0.3, bottom * 0.52);
+    sign.lineTo(signWidth * 0.55, bottom);
+    sign.lineTo(signWidth * 0.92, barY);
+    sign.lineTo(size.width() - 1.5, barY);
+    painter.drawPath(sign);
     return image;
 }
 

@@ -19,6 +19,8 @@ private:
     // A formula written in HTML (italics, superscripts) in a serif font of the given pixel
     // size, on a transparent image just large enough to hold it.
     static QImage drawFormula(const QString& html, int pixelSize);
+    // A formula under a square-root sign whose bar spans it.
+    static QImage drawSquareRoot(const QString& radicandHtml, int pixelSize);
     static QImage drawOrderFormula(const QString& html);
     static QImage drawCheckIndicator(bool checked);
     static QImage drawErrorIcon();

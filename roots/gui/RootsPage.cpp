@@ -2,7 +2,11 @@
 
 #include "common/core/CFormat.h"
 #include "common/core/SafeFileWriter.h"
+#include "common/gui/FieldValidators.h"
+#include "common/gui/GroupBoxStyle.h"
 #include "common/gui/ImageLookup.h"
+#include "common/gui/QtColor.h"
+#include "common/gui/TabPageArea.h"
 #include "roots/engine/RootsCellColors.h"
 #include "roots/engine/RootsFieldRule.h"
 #include "roots/engine/RootsTextExport.h"
@@ -31,7 +35,22 @@ const char* const kCellNamePatterns[] = {
     "roots_root1_label_%1",   "roots_result1_%1",  "roots_root2_label_%1", "roots_result2_%1"};
 const char* const kColumnHeadings[] = {"Naive\nSingle P.", "Cancellation\nSingle P.",
                                        "Naive\nDouble P.", "Naive\nHigh P."};
-const char* const kGroupStyle = "QGroupBox{border:2px solid black}";
+// A label shown beside a row's heading label: a caption before it or a formula after it.
+struct HeadingCompanion {
+    int row;
+    const char* name;
+    bool before;
+};
+const HeadingCompanion kHeadingCompanions[] = {{3, "roots_sqrt_formula", false},
+                                               {5, "roots_result1_caption", true},
+                                               {7, "roots_result2_caption", true}};
+
+// The page's spacing between blocks and inside groups, in pixels.
+constexpr int kSpacing = 8;
+// The widest text a cell can show: "%.12e" of a negative number with a three-digit exponent.
+const char* const kWidestCellText = "-1.234567890123e-100";
+// The share of a band's width the row headings get at least.
+constexpr double kHeadingShare = 0.18;
 
 template <typename Widget> Widget* pageChild(QWidget* page, const QString& name)
 {
@@ -42,17 +61,9 @@ template <typename Widget> Widget* pageChild(QWidget* page, const QString& name)
     return widget;
 }
 
-QColor toQColor(const quillon::ColorTriple& color)
-{
-    return QColor(color.red, color.green, color.blue);
-}
-
 QDoubleValidator* fieldValidator(const RootsFieldRange& range, QObject* owner)
 {
-    auto* validator = new QDoubleValidator(range.bottom, range.top, range.decimals, owner);
-    validator->setLocale(QLocale::c());
-    validator->setNotation(QDoubleValidator::StandardNotation);
-    return validator;
+    return quillon::decimalFieldValidator(range.bottom, range.top, range.decimals, owner);
 }
 
 void fillWith(QWidget* widget, const QColor& background)
@@ -63,9 +74,19 @@ void fillWith(QWidget* widget, const QColor& background)
     widget->setAutoFillBackground(true);
 }
 
-QRect proportional(int width, int height, double x, double y, double w, double h)
+int preferredWidth(const QWidget* widget)
 {
-    return QRect(int(width * x), int(height * y), int(width * w), int(height * h));
+    return widget->sizeHint().width();
+}
+
+// The width of labels placed side by side at their preferred widths, a spacing apart.
+int sideBySideWidth(const QList<QLabel*>& labels)
+{
+    int width = kSpacing * int(labels.size() - 1);
+    for (const QLabel* label : labels) {
+        width += preferredWidth(label);
+    }
+    return width;
 }
 
 } // namespace
@@ -86,6 +107,7 @@ void RootsPage::findWidgets()
     aValue = pageChild<QLineEdit>(page, QStringLiteral("roots_a_value"));
     bValue = pageChild<QLineEdit>(page, QStringLiteral("roots_b_value"));
     cValue = pageChild<QLineEdit>(page, QStringLiteral("roots_c_value"));
+    calculateButton = pageChild<QPushButton>(page, QStringLiteral("roots_calculate"));
     for (int row = 0; row <= kRootsRowCount; ++row) {
         rowGroups[row] = pageChild<QGroupBox>(page, QString::fromLatin1(kRowGroupNames[row]));
         grid[row][0] = pageChild<QLabel>(page, QString::fromLatin1(kRowHeadingNames[row]));
@@ -93,6 +115,11 @@ void RootsPage::findWidgets()
             const QString name = QString::fromLatin1(kCellNamePatterns[row]).arg(column);
             grid[row][column] = pageChild<QLabel>(page, name);
         }
+        headings[row] = {grid[row][0]};
+    }
+    for (const HeadingCompanion& companion : kHeadingCompanions) {
+        auto* label = pageChild<QLabel>(page, QString::fromLatin1(companion.name));
+        headings[companion.row].insert(companion.before ? 0 : 1, label);
     }
 }
 
@@ -111,15 +138,21 @@ void RootsPage::stylePage()
 {
     page->setFont(QFont(QStringLiteral("Arial")));
     for (const char* name : {"roots_inputGroup", "roots_outputGroup"}) {
-        pageChild<QGroupBox>(page, QString::fromLatin1(name))->setStyleSheet(kGroupStyle);
+        pageChild<QGroupBox>(page, QString::fromLatin1(name))
+            ->setStyleSheet(quillon::groupBoxStyleSheet());
     }
     for (int row = 0; row <= kRootsRowCount; ++row) {
-        rowGroups[row]->setStyleSheet(kGroupStyle);
+        rowGroups[row]->setStyleSheet(quillon::groupBoxStyleSheet());
         for (QLabel* label : grid[row]) {
+            label->setAlignment(Qt::AlignCenter);
+            // Keeps neighbouring cells' numbers apart even when a text fills its cell.
+            label->setContentsMargins(kSpacing / 2, 0, kSpacing / 2, 0);
+        }
+        for (QLabel* label : headings[row]) {
             label->setAlignment(Qt::AlignCenter);
         }
         if (row > 0) {
-            fillWith(rowGroups[row], toQColor(rootsRowBackground(RootsRow(row - 1))));
+            fillWith(rowGroups[row], quillon::toQColor(rootsRowBackground(RootsRow(row - 1))));
         }
     }
     for (int column = 0; column < kRootsVariantCount; ++column) {
@@ -132,6 +165,7 @@ void RootsPage::stylePage()
     showImage("roots_title", "ax2+bx+c=0.png");
     showImage("roots_b2_label", "b2.png");
     showImage("roots_ac_label", "4ac.png");
+    showImage("roots_sqrt_formula", "b2-4ac.png");
     showImage("roots_result1", "ax2+bx+c=.png");
     showImage("roots_result2", "ax2+bx+c=.png");
     pageChild<QLabel>(page, QStringLiteral("roots_title"))->setAlignment(Qt::AlignCenter);
@@ -206,7 +240,7 @@ void RootsPage::highlightDifferences()
 {
     const RootsAgreements agreements = rootsSolver.classifyRows();
     for (int row = 0; row < kRootsRowCount; ++row) {
-        const QColor background = toQColor(rootsRowBackground(RootsRow(row)));
+        const QColor background = quillon::toQColor(rootsRowBackground(RootsRow(row)));
         for (int variant = 0; variant < 3; ++variant) {
             const auto ink = rootsCellInk(agreements[row], variant);
             if (!ink) {
@@ -214,7 +248,7 @@ void RootsPage::highlightDifferences()
             }
             QLabel* cell = grid[row + 1][variant + 1];
             QPalette palette = cell->palette();
-            palette.setColor(QPalette::All, QPalette::WindowText, toQColor(*ink));
+            palette.setColor(QPalette::All, QPalette::WindowText, quillon::toQColor(*ink));
             cell->setPalette(palette);
             fillWith(cell, background);
         }
@@ -234,42 +268,105 @@ QString RootsPage::saveTextData(const QString& fileName) const
 
 void RootsPage::layOut(int width, int height)
 {
-    const int margin = width / 50;
-    const int innerWidth = width - 2 * margin;
-    pageChild<QLabel>(page, QStringLiteral("roots_title"))
-        ->setGeometry(margin, height / 100, innerWidth, height * 8 / 100);
+    const QSize area = quillon::tabPageArea(page, QSize(width, height));
+    auto* title = pageChild<QLabel>(page, QStringLiteral("roots_title"));
     auto* input = pageChild<QGroupBox>(page, QStringLiteral("roots_inputGroup"));
-    input->setGeometry(margin, height * 10 / 100, innerWidth, height * 13 / 100);
     auto* output = pageChild<QGroupBox>(page, QStringLiteral("roots_outputGroup"));
-    output->setGeometry(margin, height * 25 / 100, innerWidth, height * 68 / 100);
+    const int innerWidth = area.width() - 2 * kSpacing;
 
-    const int inputHeight = input->height();
-    const char* inputRow[3][2] = {{"roots_a_label", "roots_a_value"},
-                                  {"roots_b_label", "roots_b_value"},
-                                  {"roots_c_label", "roots_c_value"}};
-    for (int i = 0; i < 3; ++i) {
-        const double left = 0.02 + i * 0.26;
-        pageChild<QLabel>(page, QString::fromLatin1(inputRow[i][0]))
-            ->setGeometry(proportional(innerWidth, inputHeight, left, 0.35, 0.04, 0.45));
-        pageChild<QLineEdit>(page, QString::fromLatin1(inputRow[i][1]))
-            ->setGeometry(proportional(innerWidth, inputHeight, left + 0.04, 0.35, 0.19, 0.45));
+    const int titleHeight = qMax(title->sizeHint().height(), area.height() * 7 / 100);
+    title->setGeometry(kSpacing, kSpacing / 2, innerWidth, titleHeight);
+    const QMargins inputFrame = input->contentsMargins();
+    const int inputHeight =
+        inputFrame.top() + inputFrame.bottom() + inputRowHeight() + 2 * kSpacing;
+    input->setGeometry(kSpacing, title->geometry().bottom() + 1 + kSpacing / 2, innerWidth,
+                       inputHeight);
+    const int outputTop = input->geometry().bottom() + 1 + kSpacing;
+    output->setGeometry(kSpacing, outputTop, innerWidth, area.height() - kSpacing - outputTop);
+    layOutInputs(input);
+    layOutGrid(output);
+}
+
+int RootsPage::inputRowHeight() const
+{
+    return qMax(aValue->sizeHint().height(), calculateButton->sizeHint().height());
+}
+
+// One row, centred in the group: a, b and c, each a label and a field that share the width
+// the Calculate button leaves.
+void RootsPage::layOutInputs(QGroupBox* input)
+{
+    const QRect contents = input->contentsRect().adjusted(kSpacing, 0, -kSpacing, 0);
+    const int rowHeight = inputRowHeight();
+    const int top = contents.top() + (contents.height() - rowHeight) / 2;
+    const int buttonWidth = qMax(preferredWidth(calculateButton), contents.width() / 6);
+    const std::array<std::pair<QLabel*, QLineEdit*>, 3> fields = {
+        std::pair{pageChild<QLabel>(page, QStringLiteral("roots_a_label")), aValue},
+        std::pair{pageChild<QLabel>(page, QStringLiteral("roots_b_label")), bValue},
+        std::pair{pageChild<QLabel>(page, QStringLiteral("roots_c_label")), cValue}};
+    int labelsWidth = 0;
+    for (const auto& field : fields) {
+        labelsWidth += preferredWidth(field.first) + kSpacing / 2;
     }
-    pageChild<QPushButton>(page, QStringLiteral("roots_calculate"))
-        ->setGeometry(proportional(innerWidth, inputHeight, 0.81, 0.3, 0.16, 0.55));
+    const int fieldWidth =
+        (contents.width() - buttonWidth - labelsWidth - 3 * 2 * kSpacing) / int(fields.size());
+    int x = contents.left();
+    for (const auto& [label, edit] : fields) {
+        label->setGeometry(x, top, preferredWidth(label), rowHeight);
+        x += preferredWidth(label) + kSpacing / 2;
+        edit->setGeometry(x, top, fieldWidth, rowHeight);
+        x += fieldWidth + 2 * kSpacing;
+    }
+    calculateButton->setGeometry(contents.right() + 1 - buttonWidth, top, buttonWidth, rowHeight);
+}
 
-    // Eight bands below the group's title: the column headings and the seven quantities.
-    const int titleSpace = 22;
-    const int bandPitch = (output->height() - titleSpace - 6) / (kRootsRowCount + 1);
+// Eight bands of equal height below the group's title: the column headings and the seven
+// quantities. Each band holds the row heading and the four variants' cells.
+void RootsPage::layOutGrid(QGroupBox* output)
+{
+    const QRect contents = output->contentsRect().adjusted(kSpacing / 2, 0, -kSpacing / 2, 0);
+    const int bandPitch = contents.height() / (kRootsRowCount + 1);
+    const int headingWidth = headingColumnWidth(contents.width());
     for (int row = 0; row <= kRootsRowCount; ++row) {
         QGroupBox* band = rowGroups[row];
-        band->setGeometry(6, titleSpace + row * bandPitch, innerWidth - 12, bandPitch - 4);
-        const int bandWidth = band->width();
-        const int bandHeight = band->height();
-        grid[row][0]->setGeometry(proportional(bandWidth, bandHeight, 0.01, 0.08, 0.18, 0.84));
+        band->setGeometry(contents.left(), contents.top() + row * bandPitch, contents.width(),
+                          bandPitch - kSpacing / 2);
+        const QRect inside = band->contentsRect();
+        layOutHeading(row, QRect(inside.left(), inside.top(), headingWidth, inside.height()));
+        const int cellWidth = (inside.width() - headingWidth) / kRootsVariantCount;
         for (int column = 1; column <= kRootsVariantCount; ++column) {
-            const double left = 0.20 + (column - 1) * 0.2;
-            grid[row][column]->setGeometry(
-                proportional(bandWidth, bandHeight, left, 0.08, 0.195, 0.84));
+            grid[row][column]->setGeometry(inside.left() + headingWidth + (column - 1) * cellWidth,
+                                           inside.top(), cellWidth, inside.height());
         }
+    }
+}
+
+// Wide enough for every row's heading labels side by side; a fixed share of the band when the
+// cells can spare it, as they need room for their widest text.
+int RootsPage::headingColumnWidth(int bandWidth) const
+{
+    int widestHeading = 0;
+    for (const QList<QLabel*>& labels : headings) {
+        widestHeading = qMax(widestHeading, sideBySideWidth(labels) + 2 * kSpacing);
+    }
+    const QFontMetrics metrics = grid[1][1]->fontMetrics();
+    const int cellsNeed =
+        kRootsVariantCount *
+        (metrics.horizontalAdvance(QString::fromLatin1(kWidestCellText)) + 2 * kSpacing);
+    return qMax(widestHeading, qMin(int(bandWidth * kHeadingShare), bandWidth - cellsNeed));
+}
+
+// The heading labels of a row side by side, centred in the heading column.
+void RootsPage::layOutHeading(int row, const QRect& column)
+{
+    const QList<QLabel*>& labels = headings[row];
+    if (labels.size() == 1) {
+        labels.front()->setGeometry(column);
+        return;
+    }
+    int x = column.left() + (column.width() - sideBySideWidth(labels)) / 2;
+    for (QLabel* label : labels) {
+        label->setGeometry(x, column.top(), preferredWidth(label), column.height());
+        x += preferredWidth(label) + kSpacing;
     }
 }

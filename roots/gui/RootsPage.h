@@ -3,6 +3,7 @@
 #include "roots/engine/RootsGrid.h"
 #include "roots/engine/RootsSolver.h"
 
+#include <QList>
 #include <QString>
 #include <array>
 #include <cstdio>
@@ -11,6 +12,8 @@ class QDoubleValidator;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
+class QRect;
 class QWidget;
 
 // Binds the Roots page of the main window's form to a RootsSolver: reads the a, b, c fields,
@@ -39,7 +42,9 @@ public:
     // Writes the text export to `fileName`; returns why it failed, or an empty text.
     QString saveTextData(const QString& fileName) const;
 
-    // Places the page's widgets proportionally in a content area of width x height.
+    // Places the page's widgets. The main window offers its width and its height less a
+    // menu-bar allowance; the page is laid out in the space the tab widget really gives it
+    // once the window is shown (see tabPageArea()), and in the offered size before.
     void layOut(int width, int height);
 
 private:
@@ -51,16 +56,25 @@ private:
     void showResults();
     void highlightDifferences();
     void writeBackSingleCopies();
+    int inputRowHeight() const;
+    void layOutInputs(QGroupBox* input);
+    void layOutGrid(QGroupBox* output);
+    int headingColumnWidth(int bandWidth) const;
+    void layOutHeading(int row, const QRect& column);
 
     QWidget* page;
     RootsSolver rootsSolver;
     QLineEdit* aValue = nullptr;
     QLineEdit* bValue = nullptr;
     QLineEdit* cValue = nullptr;
+    QPushButton* calculateButton = nullptr;
     QDoubleValidator* aValidator = nullptr;
     QDoubleValidator* bValidator = nullptr;
     QDoubleValidator* cValidator = nullptr;
     // [row + 1][column + 1]: row 0 holds the column headings, column 0 the row headings.
     std::array<std::array<QLabel*, kRootsVariantCount + 1>, kRootsRowCount + 1> grid{};
     std::array<QGroupBox*, kRootsRowCount + 1> rowGroups{};
+    // The labels of each row's heading, left to right: the grid's heading label, with the
+    // caption or typeset formula that some rows show beside it.
+    std::array<QList<QLabel*>, kRootsRowCount + 1> headings{};
 };

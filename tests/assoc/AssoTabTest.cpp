@@ -6,6 +6,7 @@
 #include "assoc/gui/AssoSelectionWindow.h"
 #include "tests/assoc/AssoTestSupport.h"
 #include "tests/gui/GuiTestSupport.h"
+#include "tests/gui/PaintedTextRecorder.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QOpenGLWidget>
+#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
@@ -33,6 +35,13 @@ std::string fileContents(const QString& path)
 
 // Whether the image holds a pixel of exactly this colour (the curves are drawn without
 // smoothing, so their pixels have their exact colour).
+// Clicks a check box or radio button on its indicator, where a person clicks it (a click far
+// right of a wide button's text does nothing).
+void clickIndicator(QAbstractButton* button)
+{
+    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(10, button->height() / 2));
+}
+
 bool hasColor(const QImage& image, const QColor& color, int fromX = 0, int toX = -1)
 {
     const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
@@ -81,6 +90,15 @@ private slots:
     void helpWindowsShowTheirTexts();
     void oddInputsNeverCrash();
     void heaviestViewStillPaints();
+    void numberFieldsRefuseGroupSeparators();
+    void selectionWindowShowsTheBaseOrder();
+    void uncheckingComparisonRepaintsTheBaseButtons();
+    void focusWindowFollowsEveryChangeOfTheWindow();
+    void coloursOutsideTheRangeShowAsTheyAreDrawn();
+    void largeColourFileReadsItsFirstLines();
+    void yLabelsShowTheGridValues();
+    void errorMessagesAreMeasuredWithGetAndDrawnWithGets();
+    void spreadReadoutShowsTheLargestDifference();
 
 private:
     template <typename T> T* child(const char* name) const
@@ -93,6 +111,12 @@ private:
     QPoint viewPoint(double fx, double fy) const;
     void runUntil(const std::function<bool()>& done);
     void saveOrOpen(const char* entry, const QString& path);
+    AssoSelectionWindow* popSelectionWindow();
+    AssoFocusWindow* popFocusWindow();
+    QList<PaintedText> paintedTexts() const;
+    void expectFocusShowsTheWindow(AssoFocusWindow* focus);
+    QString writeColourFile(const QString& name, const QByteArray& contents);
+    void showOnlyOrder(int order);
 
     std::unique_ptr<MainWindow> window;
     std::unique_ptr<QTemporaryDir> folder;
@@ -132,17 +156,7 @@ void AssoTabTest::typeAndEnter(const char* field, const QString& text)
 
 QWidget* AssoTabTest::popWindow(const char* menu, const char* entry, const QString& title)
 {
-    QAction* action = menuBarAction(*window, menu, entry);
-    if (action == nullptr || !action->isEnabled()) {
-        return nullptr;
-    }
-    action->trigger();
-    for (QWidget* topLevel : QApplication::topLevelWidgets()) {
-        if (topLevel->isVisible() && topLevel->windowTitle() == title) {
-            return topLevel;
-        }
-    }
-    return nullptr;
+    return popMenuWindow(*window, QString::fromLatin1(menu), QString::fromLatin1(entry), title);
 }
 
 QImage AssoTabTest::grabPlot()
@@ -188,10 +202,16 @@ void AssoTabTest::panelStartsWithTheDefaults()
 void AssoTabTest::curvesAppearInTheirColours()
 {
     runUntil([this] { return scene->xWindow().slideInDone(); });
-    const QImage frame = grabPlot();
-    for (const auto& color : scene->colors()) {
-        QVERIFY2(hasColor(frame, QColor(color.red, color.green, color.blue)),
-                 qPrintable(QColor(color.red, color.green, color.blue).name()));
+    // One order at a time, since the curves cover each other where the orders agree; only
+    // the plot area counts, as the legend's squares below 0.75 of the height hold every colour.
+    for (int k = 0; k < kAssoOrderCount; ++k) {
+        showOnlyOrder(k);
+        const QImage frame = grabPlot();
+        const QImage plotArea = frame.copy(0, 0, view->width(), int(0.75 * view->height()) - 1);
+        for (int other = 0; other < kAssoOrderCount; ++other) {
+            const auto& color = scene->colors()[other];
+            QCOMPARE(hasColor(plotArea, QColor(color.red, color.green, color.blue)), other == k);
+        }
     }
 }
 
@@ -460,13 +480,26 @@ void AssoTabTest::selectionWindowSwitchesCurvesAndComparison()
     QVERIFY(selection->baseRadioButton(3)->isCheckable());
     selection->baseRadioButton(3)->click();
     QCOMPARE(scene->baseFunction(), 3);
-    for (int n = 0; n < 300; ++n) {
-        QCOMPARE(
-            AssoPlotContent({&scene->sequences(), {true, true, true, true, true}, true, 3, 300})
-                .plotted(3, n)
-                .value_or(-1.0f),
-            0.0f);
-    }
+    // The plot now shows differences to order 4: once the window 0..20 has slid in, the Y range
+    // spans the differences values[k][i] - values[3][i] over those iterations.
+    runUntil([this] { return scene->xWindow().slideInDone(); });
+    const auto differenceRange = [this](int base) {
+        const AssoSequences& sequences = scene->sequences();
+        float low = 0.0f;
+        float high = 0.0f;
+        for (int k = 0; k < kAssoOrderCount; ++k) {
+            for (int i = 0; i <= 20; ++i) {
+                const float difference = sequences.values[k][i] - sequences.values[base][i];
+                low = std::min(low, difference);
+                high = std::max(high, difference);
+            }
+        }
+        return std::make_pair(low, high);
+    };
+    const auto expected = differenceRange(3);
+    QVERIFY(expected != differenceRange(0));
+    QCOMPARE(scene->getYMin(), expected.first);
+    QCOMPARE(scene->getYMax(), expected.second);
     selection->comparisonCheckBox()->click();
     QVERIFY(!selection->baseRadioButton(1)->isCheckable());
     for (int k = 0; k < kAssoOrderCount; ++k) {
@@ -675,6 +708,340 @@ void AssoTabTest::heaviestViewStillPaints()
     const QImage frame = grabPlot();
     QVERIFY(timer.elapsed() < 5000);
     QVERIFY(!frame.isNull());
+}
+
+AssoSelectionWindow* AssoTabTest::popSelectionWindow()
+{
+    auto* selection = qobject_cast<AssoSelectionWindow*>(
+        popWindow("&Tools", "&Selections ...", QStringLiteral("Selections")));
+    if (selection != nullptr && !QTest::qWaitForWindowExposed(selection)) {
+        return nullptr;
+    }
+    return selection;
+}
+
+AssoFocusWindow* AssoTabTest::popFocusWindow()
+{
+    return qobject_cast<AssoFocusWindow*>(
+        popWindow("&Tools", "&Region focus ...", QStringLiteral("Region focus")));
+}
+
+// What the scene's foreground pass writes, read from a painter instead of from pixels.
+QList<PaintedText> AssoTabTest::paintedTexts() const
+{
+    struct Foreground : AssoOpenGLScene {
+        static void draw(AssoOpenGLScene* scene, QPainter* painter, const QRectF& rect)
+        {
+            (scene->*(&Foreground::drawForeground))(painter, rect);
+        }
+    };
+    PaintedTextRecorder recorder(view->size());
+    QPainter painter(&recorder);
+    Foreground::draw(scene, &painter, QRectF(QPointF(0, 0), view->size()));
+    painter.end();
+    return recorder.texts();
+}
+
+void AssoTabTest::expectFocusShowsTheWindow(AssoFocusWindow* focus)
+{
+    const AssoXWindow& shown = scene->xWindow();
+    QCOMPARE(focus->startSlider()->value(), shown.start);
+    QCOMPARE(focus->startSlider()->maximum(), shown.end - 1);
+    QCOMPARE(focus->endSlider()->value(), shown.end);
+    QCOMPARE(focus->endSlider()->minimum(), shown.start);
+    QCOMPARE(focus->endSlider()->maximum(), scene->getN() - 1);
+    QCOMPARE(focus->stepSlider()->maximum(), scene->getN() - 1);
+    QCOMPARE(focus->findChild<QLabel*>(QStringLiteral("startValue"))->text(),
+             QString::number(shown.start));
+    QCOMPARE(focus->findChild<QLabel*>(QStringLiteral("endValue"))->text(),
+             QString::number(shown.end));
+    QCOMPARE(focus->yMinEdit()->text(), QString::asprintf("%f", double(scene->getYMin())));
+    QCOMPARE(focus->yMaxEdit()->text(), QString::asprintf("%f", double(scene->getYMax())));
+}
+
+void AssoTabTest::showOnlyOrder(int order)
+{
+    const std::array<void (AssoOpenGLScene::*)(bool), kAssoOrderCount> needOrder = {
+        &AssoOpenGLScene::needFunc0, &AssoOpenGLScene::needFunc1, &AssoOpenGLScene::needFunc2,
+        &AssoOpenGLScene::needFunc3, &AssoOpenGLScene::needFunc4};
+    scene->allUnchoose();
+    (scene->*needOrder[order])(true);
+}
+
+QString AssoTabTest::writeColourFile(const QString& name, const QByteArray& contents)
+{
+    QFile file(folder->filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(contents) != contents.size()) {
+        return QString();
+    }
+    return file.fileName();
+}
+
+void AssoTabTest::numberFieldsRefuseGroupSeparators()
+{
+    for (const char* name :
+         {"associativelaw_iteration_input", "associativelaw_X_input", "associativelaw_R_input"}) {
+        auto* edit = child<QLineEdit>(name);
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_Backspace);
+        QTest::keyClicks(edit, QStringLiteral("1,000"));
+        // The comma is refused as it is typed; the digits around it stand.
+        QCOMPARE(edit->text(), QStringLiteral("1000"));
+    }
+    QTest::keyClick(child<QLineEdit>("associativelaw_R_input"), Qt::Key_Return);
+    QCOMPARE(scene->getR(), 1000.0f);
+}
+
+void AssoTabTest::selectionWindowShowsTheBaseOrder()
+{
+    AssoSelectionWindow* selection = popSelectionWindow();
+    QVERIFY(selection != nullptr);
+    // The one radio button that shows as checked, -1 for none, -2 for several.
+    const auto shownBase = [selection] {
+        int shown = -1;
+        for (int k = 0; k < kAssoOrderCount; ++k) {
+            if (selection->baseRadioButton(k)->isChecked()) {
+                shown = shown == -1 ? k : -2;
+            }
+        }
+        return shown;
+    };
+    QCOMPARE(shownBase(), -1);
+    clickIndicator(selection->comparisonCheckBox());
+    QVERIFY(scene->isComparing());
+    QCOMPARE(shownBase(), scene->baseFunction());
+    for (int k : {3, 0, 4, 1, 2, 0}) {
+        clickIndicator(selection->baseRadioButton(k));
+        QCOMPARE(scene->baseFunction(), k);
+        QCOMPARE(shownBase(), k);
+    }
+    clickIndicator(selection->baseRadioButton(3));
+    for (int toggle = 0; toggle < 3; ++toggle) {
+        clickIndicator(selection->comparisonCheckBox());
+        QCOMPARE(shownBase(), -1);
+        clickIndicator(selection->comparisonCheckBox());
+        QCOMPARE(scene->baseFunction(), 3);
+        QCOMPARE(shownBase(), 3);
+    }
+    clickIndicator(selection->baseRadioButton(1));
+    QCOMPARE(scene->baseFunction(), 1);
+    QCOMPARE(shownBase(), 1);
+    const QString conf = folder->filePath(QStringLiteral("colours.conf"));
+    saveOrOpen("&Save to a configuration file ...", conf);
+    saveOrOpen("&Open a configuration file ...", conf);
+    scene->allchoose();
+    QCOMPARE(shownBase(), scene->baseFunction());
+}
+
+void AssoTabTest::uncheckingComparisonRepaintsTheBaseButtons()
+{
+    AssoSelectionWindow* selection = popSelectionWindow();
+    QVERIFY(selection != nullptr);
+    clickIndicator(selection->comparisonCheckBox());
+    clickIndicator(selection->baseRadioButton(2));
+    QApplication::processEvents();
+    QRadioButton* base = selection->baseRadioButton(2);
+    QVERIFY(base->isChecked());
+    struct PaintCounter : QObject {
+        int paints = 0;
+        bool eventFilter(QObject*, QEvent* event) override
+        {
+            paints += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+    } counter;
+    // Leave the radio button first: a hover change would repaint it anyway.
+    QTest::mouseMove(selection->comparisonCheckBox());
+    QTest::qWait(100);
+    base->installEventFilter(&counter);
+    clickIndicator(selection->comparisonCheckBox());
+    QVERIFY(!base->isChecked());
+    // The button no longer checked must be painted again, or it still looks chosen.
+    QTRY_VERIFY(counter.paints > 0);
+}
+
+void AssoTabTest::focusWindowFollowsEveryChangeOfTheWindow()
+{
+    AssoFocusWindow* focus = popFocusWindow();
+    QVERIFY(focus != nullptr);
+    expectFocusShowsTheWindow(focus);
+    const auto moveWindowTo7To27 = [&] {
+        focus->endSlider()->setValue(27);
+        focus->startSlider()->setValue(7);
+        QCOMPARE(scene->xWindow().start, 7);
+        QCOMPARE(scene->xWindow().end, 27);
+        expectFocusShowsTheWindow(focus);
+    };
+    moveWindowTo7To27();
+    typeAndEnter("associativelaw_R_input", QStringLiteral("2.5"));
+    QCOMPARE(scene->xWindow().start, 0);
+    QCOMPARE(scene->xWindow().end, 20);
+    expectFocusShowsTheWindow(focus);
+
+    moveWindowTo7To27();
+    typeAndEnter("associativelaw_X_input", QStringLiteral("0.25"));
+    QCOMPARE(scene->xWindow().start, 0);
+    expectFocusShowsTheWindow(focus);
+
+    moveWindowTo7To27();
+    QTest::mouseClick(child<QPushButton>("associativelaw_calculate"), Qt::LeftButton);
+    QCOMPARE(scene->xWindow().start, 0);
+    expectFocusShowsTheWindow(focus);
+
+    // Calculate reads a new N as well: the end slider reaches N - 1.
+    auto* iterations = child<QLineEdit>("associativelaw_iteration_input");
+    iterations->setText(QStringLiteral("150"));
+    QTest::mouseClick(child<QPushButton>("associativelaw_calculate"), Qt::LeftButton);
+    QCOMPARE(scene->getN(), 150);
+    QCOMPARE(focus->endSlider()->maximum(), 149);
+    expectFocusShowsTheWindow(focus);
+
+    moveWindowTo7To27();
+    typeAndEnter("associativelaw_iteration_input", QStringLiteral("40"));
+    QCOMPARE(focus->endSlider()->maximum(), 39);
+    expectFocusShowsTheWindow(focus);
+
+    clickIndicator(popSelectionWindow()->comparisonCheckBox());
+    expectFocusShowsTheWindow(focus);
+}
+
+void AssoTabTest::coloursOutsideTheRangeShowAsTheyAreDrawn()
+{
+    const QString path =
+        writeColourFile(QStringLiteral("odd.conf"), "Func0 Color R 300 G -20 B 128\n"
+                                                    "Func1 Color R 0 G 1000 B 999\n");
+    QVERIFY(!path.isEmpty());
+    QCOMPARE(scene->loadColorFile(path), QString());
+    QCOMPARE(scene->colors()[0], (quillon::ColorTriple{300, -20, 128}));
+    runUntil([this] { return scene->xWindow().slideInDone(); });
+    // OpenGL clamps each component: the curves are drawn in (255, 0, 128) and (0, 255, 255).
+    const QList<QColor> drawn = {QColor(255, 0, 128), QColor(0, 255, 255)};
+    const int legendTop = int(0.75 * view->height());
+    const int rowHeight = int(0.25 * view->height()) / 5;
+    const int columnWidth = view->width() / 15;
+    for (int k = 0; k < 2; ++k) {
+        showOnlyOrder(k);
+        const QImage frame = grabPlot().convertToFormat(QImage::Format_RGB32);
+        QVERIFY(hasColor(frame.copy(0, 0, view->width(), legendTop - 1), drawn[k]));
+        const QPoint square(13 * columnWidth + columnWidth / 2,
+                            legendTop + k * rowHeight + rowHeight / 2);
+        QCOMPARE(QColor(frame.pixel(square)), drawn[k]);
+    }
+}
+
+void AssoTabTest::largeColourFileReadsItsFirstLines()
+{
+    QByteArray contents = "Func0 Color R 1 G 2 B 3\nFunc1 Color R 4 G 5 B 6\n";
+    contents += QByteArray(3 << 20, ' ');
+    const QString path = writeColourFile(QStringLiteral("large.conf"), contents);
+    QVERIFY(!path.isEmpty());
+    const quillon::ColorTriple third = scene->colors()[2];
+    QCOMPARE(scene->loadColorFile(path), QString());
+    QCOMPARE(scene->colors()[0], (quillon::ColorTriple{1, 2, 3}));
+    QCOMPARE(scene->colors()[1], (quillon::ColorTriple{4, 5, 6}));
+    QCOMPARE(scene->colors()[2], third);
+}
+
+void AssoTabTest::yLabelsShowTheGridValues()
+{
+    scene->setPaused(true);
+    child<QCheckBox>("associativelaw_showYIndices")->setChecked(true);
+    AssoFocusWindow* focus = popFocusWindow();
+    QVERIFY(focus != nullptr);
+    focus->yMinEdit()->setText(QStringLiteral("-1"));
+    QTest::keyClick(focus->yMinEdit(), Qt::Key_Return);
+    focus->yMaxEdit()->setText(QStringLiteral("1"));
+    QTest::keyClick(focus->yMaxEdit(), Qt::Key_Return);
+    // 21 grid values from -1 to 1 in steps of 0.1, each written with "%.2e".
+    const QStringList expected = {
+        "-1.00e+00", "-9.00e-01", "-8.00e-01", "-7.00e-01", "-6.00e-01", "-5.00e-01", "-4.00e-01",
+        "-3.00e-01", "-2.00e-01", "-1.00e-01", "0.00e+00",  "1.00e-01",  "2.00e-01",  "3.00e-01",
+        "4.00e-01",  "5.00e-01",  "6.00e-01",  "7.00e-01",  "8.00e-01",  "9.00e-01",  "1.00e+00"};
+    QStringList labels;
+    for (const PaintedText& painted : paintedTexts()) {
+        static const QRegularExpression twoDecimals(QStringLiteral("^-?\\d\\.\\d\\de[+-]\\d\\d$"));
+        if (painted.position.x() == 0 && twoDecimals.match(painted.text).hasMatch()) {
+            labels << painted.text;
+        }
+    }
+    QCOMPARE(labels, expected);
+}
+
+void AssoTabTest::errorMessagesAreMeasuredWithGetAndDrawnWithGets()
+{
+    typeAndEnter("associativelaw_R_input", QStringLiteral("10000"));
+    typeAndEnter("associativelaw_X_input", QStringLiteral("10000"));
+    AssoFocusWindow* focus = popFocusWindow();
+    QVERIFY(focus != nullptr);
+    // A window of iterations 0..4 puts the icon of iteration 3 three quarters across the plot,
+    // so the messages no longer fit to the right of the cursor.
+    focus->endSlider()->setValue(4);
+    runUntil([this] { return scene->xWindow().slideInDone(); });
+    QVERIFY(scene->sequences().errors[0][3] != AssoOk);
+    const QPoint icon = scene->errorIconRect(3).center().toPoint();
+    QTest::mouseMove(view->viewport(), icon);
+    QTRY_VERIFY(scene->showsErrorMessages());
+
+    const char* const words[] = {"", "Underflow", "Overflow", "NAN"};
+    QStringList measured;
+    QStringList drawn;
+    const AssoSequences& sequences = scene->sequences();
+    for (int k = 0; k < kAssoOrderCount; ++k) {
+        for (size_t n = 0; n < sequences.errors[k].size(); ++n) {
+            const int32_t code = sequences.errors[k][n];
+            if (code != AssoOk) {
+                const QString where = QStringLiteral("func %1 at iter %2 ").arg(k).arg(n);
+                measured << where + "get an error: " + words[code] + "\n";
+                drawn << where + "gets an error: " + words[code];
+            }
+        }
+    }
+    QFont font(QStringLiteral("times"), 10);
+    font.setWeight(QFont::Bold);
+    const QFontMetrics metrics(font);
+    int widest = 0;
+    bool fits = true;
+    for (const QString& text : measured) {
+        widest = std::max(widest, metrics.horizontalAdvance(text));
+        fits = fits && icon.x() + metrics.horizontalAdvance(text) <= view->width();
+    }
+    QVERIFY(!fits);
+
+    QStringList texts;
+    for (const PaintedText& painted : paintedTexts()) {
+        if (painted.color == QColor(255, 0, 0)) {
+            texts << painted.text;
+            // Placed left of the cursor by the widest "get" message, not the wider "gets" one.
+            QCOMPARE(painted.position.x(), double(icon.x() - widest));
+        }
+    }
+    QCOMPARE(texts, drawn);
+}
+
+void AssoTabTest::spreadReadoutShowsTheLargestDifference()
+{
+    typeAndEnter("associativelaw_R_input", QStringLiteral("3"));
+    runUntil([this] { return scene->xWindow().slideInDone(); });
+    // The window 0..20 fills the plot: x(20) = 20 * 0.15f - 1.5 = 1.5 is the last node inside.
+    QCOMPARE(scene->xWindow().start, 0);
+    QCOMPARE(scene->xWindow().end, 20);
+    const AssoSequences& sequences = scene->sequences();
+    float largest = sequences.values[0][20];
+    float smallest = largest;
+    for (int k = 1; k < kAssoOrderCount; ++k) {
+        largest = std::max(largest, sequences.values[k][20]);
+        smallest = std::min(smallest, sequences.values[k][20]);
+    }
+    QVERIFY(largest != smallest);
+    const QString expected = QString::asprintf("Error: %2e", double(largest) - double(smallest));
+    QStringList readouts;
+    for (const PaintedText& painted : paintedTexts()) {
+        if (painted.text.startsWith(QLatin1String("Error: "))) {
+            readouts << painted.text;
+        }
+    }
+    QCOMPARE(readouts, QStringList{expected});
 }
 
 QTEST_MAIN(AssoTabTest)

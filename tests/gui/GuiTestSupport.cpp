@@ -23,6 +23,22 @@ QAction* menuBarAction(QMainWindow& window, const QString& menuTitle, const QStr
     return nullptr;
 }
 
+QWidget* popMenuWindow(QMainWindow& window, const QString& menuTitle, const QString& actionText,
+                       const QString& title)
+{
+    QAction* action = menuBarAction(window, menuTitle, actionText);
+    if (action == nullptr || !action->isEnabled()) {
+        return nullptr;
+    }
+    action->trigger();
+    for (QWidget* topLevel : QApplication::topLevelWidgets()) {
+        if (topLevel->isVisible() && topLevel->windowTitle() == title) {
+            return topLevel;
+        }
+    }
+    return nullptr;
+}
+
 void answerNextModalDialog(std::function<void(QWidget*)> answer)
 {
     auto* poll = new QTimer();

@@ -11,6 +11,11 @@ class QWidget;
 // it is now; null when there is none.
 QAction* menuBarAction(QMainWindow& window, const QString& menuTitle, const QString& actionText);
 
+// Triggers the menu entry and returns the visible top-level window titled `title` that it
+// shows; null when the entry is missing or disabled or no such window shows.
+QWidget* popMenuWindow(QMainWindow& window, const QString& menuTitle, const QString& actionText,
+                       const QString& title);
+
 // Answers the next modal dialog: shortly after one opens, `answer` is called with it and
 // should close it; a dialog still open afterwards is closed. Call before the action that
 // opens the dialog.

@@ -1,4 +1,6 @@
 #include "app/MainWindow.h"
+#include "common/gui/GroupBoxStyle.h"
+#include "common/gui/ImageLookup.h"
 #include "roots/engine/RootsFieldRule.h"
 #include "tests/gui/GuiTestSupport.h"
 #include "tests/roots/GoldenGrid.h"
@@ -14,6 +16,7 @@
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QtTest>
+#include <clocale>
 
 namespace
 {
@@ -71,10 +74,12 @@ private slots:
     void cleanup();
     void startUpShowsTheInitialCoefficientsAndGrid();
     void columnHeadingsAndStaticTexts();
+    void headingsShowCalculatedAndTheRootFormula();
     void enterInAFieldRecomputes();
     void calculateReadsAllThreeFields();
     void examplesFromTheMenu_data();
     void examplesFromTheMenu();
+    void exampleThreeHighPrecisionColumnUnderTheUsersLocale();
     void exampleThreeWritesBackSinglePrecisionCopies();
     void enterOnRefusedTextChangesNothing();
     void calculateWithAZeroAUsesTheMinimum();
@@ -86,6 +91,7 @@ private slots:
     void helpWindowsShowTheirTexts();
     void validatorsAgreeWithTheCommandLineRule();
     void anyTextThroughCalculateGivesReadableCells();
+    void numberFieldsRefuseGroupSeparators();
 
 private:
     QLabel* cell(int row, int column) const;
@@ -194,10 +200,39 @@ void RootsPageTest::columnHeadingsAndStaticTexts()
          {"roots_title", "roots_b2_label", "roots_ac_label", "roots_result1", "roots_result2"}) {
         QVERIFY2(!window->findChild<QLabel*>(name)->pixmap().isNull(), name);
     }
+    QVERIFY(quillon::groupBoxStyleSheet().startsWith(
+        QStringLiteral("QGroupBox{border:2px solid black}")));
     for (const char* name : {"roots_inputGroup", "roots_outputGroup", "roots_g_b2", "roots_g_SR"}) {
-        QCOMPARE(window->findChild<QWidget*>(name)->styleSheet(),
-                 QStringLiteral("QGroupBox{border:2px solid black}"));
+        QCOMPARE(window->findChild<QWidget*>(name)->styleSheet(), quillon::groupBoxStyleSheet());
     }
+}
+
+// "Calculated" heads the two a x^2 + b x + c rows; the square-root row shows the typeset
+// formula "b2-4ac.png" beside its text, and the 4ac row keeps "4ac.png".
+void RootsPageTest::headingsShowCalculatedAndTheRootFormula()
+{
+    const auto asDrawn = [](const QImage& image) {
+        return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    };
+    const QImage rootFormula = asDrawn(quillon::loadImage(QStringLiteral("b2-4ac.png")));
+    QVERIFY(!rootFormula.isNull());
+    QStringList calculatedRows;
+    QStringList rootFormulaRows;
+    for (QLabel* label : window->findChild<QWidget*>("roots_win")->findChildren<QLabel*>()) {
+        if (!label->isVisible()) {
+            continue;
+        }
+        if (label->text() == QStringLiteral("Calculated")) {
+            calculatedRows << label->parentWidget()->objectName();
+        }
+        if (!label->pixmap().isNull() && asDrawn(label->pixmap().toImage()) == rootFormula) {
+            rootFormulaRows << label->parentWidget()->objectName();
+        }
+    }
+    QCOMPARE(calculatedRows, QStringList({"roots_g_LR", "roots_g_SR"}));
+    QCOMPARE(rootFormulaRows, QStringList({"roots_g_sqrt"}));
+    QCOMPARE(asDrawn(window->findChild<QLabel*>("roots_ac_label")->pixmap().toImage()),
+             asDrawn(quillon::loadImage(QStringLiteral("4ac.png"))));
 }
 
 void RootsPageTest::enterInAFieldRecomputes()
@@ -250,6 +285,22 @@ void RootsPageTest::examplesFromTheMenu()
     QCOMPARE(field("roots_c_value")->text(), fields[2]);
 }
 
+void RootsPageTest::exampleThreeHighPrecisionColumnUnderTheUsersLocale()
+{
+    // This program also runs under LC_ALL=de_DE.UTF-8, whose decimal point is a comma; the
+    // application object has switched the C library to it, and the 256-bit column's decimal
+    // constants (0.01, 249999.99999) must still be read with their '.'.
+    const QByteArray expected = qgetenv("QUILLON_EXPECT_LOCALE");
+    if (!expected.isEmpty()) {
+        QCOMPARE(QByteArray(std::setlocale(LC_NUMERIC, nullptr)), expected);
+    }
+    menuBarAction(*window, "&Examples", "&Example 3: b^2 ~ 4ac")->trigger();
+    const GoldenGrid golden = GoldenGrid::load("grid-example3.tsv");
+    for (int row = 0; row < kRootsRowCount; ++row) {
+        QCOMPARE(cell(row, 3)->text().toStdString(), golden.texts[row][3]);
+    }
+}
+
 void RootsPageTest::exampleThreeWritesBackSinglePrecisionCopies()
 {
     menuBarAction(*window, "&Examples", "&Example 3: b^2 ~ 4ac")->trigger();
@@ -294,18 +345,28 @@ void RootsPageTest::calculateWithAZeroAUsesTheMinimum()
 
 void RootsPageTest::toleranceChainRowKeepsItsColours()
 {
-    // At start-up the small-root row is class -3: black, black, pink.
-    QCOMPARE(cell(RowSmallRoot, 2)->palette().color(QPalette::WindowText), kPink);
+    // With a = 1, b = -7, c = 1 the three small roots all differ (class 3): red, blue, pink.
     typeInto(field("roots_a_value"), QStringLiteral("1"));
+    typeInto(field("roots_b_value"), QStringLiteral("-7"));
+    typeInto(field("roots_c_value"), QStringLiteral("1"));
+    QTest::mouseClick(window->findChild<QPushButton*>("roots_calculate"), Qt::LeftButton);
+    const QList<QColor> allDiffer = inksFor(3);
+    for (int column = 0; column < 3; ++column) {
+        QCOMPARE(cell(RowSmallRoot, column)->palette().color(QPalette::WindowText),
+                 allDiffer[column]);
+    }
     typeInto(field("roots_b_value"), QStringLiteral("-0.000708052"));
     typeInto(field("roots_c_value"), QStringLiteral("0.000000078"));
     QTest::mouseClick(window->findChild<QPushButton*>("roots_calculate"), Qt::LeftButton);
     expectGrid("grid-tolerance-chain.tsv");
-    QCOMPARE(cell(RowSmallRoot, 0)->palette().color(QPalette::WindowText), kBlack);
-    QCOMPARE(cell(RowSmallRoot, 1)->palette().color(QPalette::WindowText), kBlack);
-    QCOMPARE(cell(RowSmallRoot, 2)->palette().color(QPalette::WindowText), kPink);
-    // The large-root row, class 3 before, is class 0 now.
-    QCOMPARE(cell(RowLargeRoot, 0)->palette().color(QPalette::WindowText), kBlack);
+    // The small-root row is class 1 now: it keeps the colours it had, which no other class
+    // would give.
+    for (int column = 0; column < 3; ++column) {
+        QCOMPARE(cell(RowSmallRoot, column)->palette().color(QPalette::WindowText),
+                 allDiffer[column]);
+    }
+    // The large-root row, class -3 before (pink third cell), is class 0 now.
+    QCOMPARE(cell(RowLargeRoot, 2)->palette().color(QPalette::WindowText), kBlack);
 }
 
 void RootsPageTest::highPrecisionColumnIsNeverColoured()
@@ -483,6 +544,17 @@ void RootsPageTest::anyTextThroughCalculateGivesReadableCells()
             }
         }
     }
+}
+
+void RootsPageTest::numberFieldsRefuseGroupSeparators()
+{
+    for (const char* name : {"roots_a_value", "roots_b_value", "roots_c_value"}) {
+        typeInto(field(name), QStringLiteral("1,000"));
+        // The comma is refused as it is typed; the digits around it stand.
+        QCOMPARE(field(name)->text(), QStringLiteral("1000"));
+    }
+    QTest::keyClick(field("roots_b_value"), Qt::Key_Return);
+    QCOMPARE(cell(RowB2, 2)->text(), QStringLiteral("1.000000000000e+06"));
 }
 
 QTEST_MAIN(RootsPageTest)

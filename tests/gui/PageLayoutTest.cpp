@@ -1,0 +1,292 @@
+#include "app/MainWindow.h"
+#include "tests/gui/GuiTestSupport.h"
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QStyleOptionGroupBox>
+#include <QTabWidget>
+#include <QtTest>
+
+namespace
+{
+
+// The size the form gives the window when the program starts.
+constexpr QSize kStartingSize(1080, 838);
+
+QString nameOf(const QWidget* widget)
+{
+    return widget->objectName().isEmpty() ? QString::fromLatin1(widget->metaObject()->className())
+                                          : widget->objectName();
+}
+
+QString describe(const QWidget* widget, const QString& text)
+{
+    return QStringLiteral("%1 \"%2\" in %3x%4")
+        .arg(nameOf(widget), text)
+        .arg(widget->width())
+        .arg(widget->height());
+}
+
+// Whether every ancestor up to `top` shows the whole widget, so that none of it is cut off.
+bool insideAncestors(const QWidget* widget, const QWidget* top)
+{
+    QRect area = widget->rect();
+    for (const QWidget* w = widget; w != top && w->parentWidget() != nullptr;
+         w = w->parentWidget()) {
+        area.translate(w->pos());
+        if (!w->parentWidget()->rect().contains(area)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void checkLabel(const QLabel* label, QStringList& problems)
+{
+    const QRect room = label->contentsRect();
+    if (!label->pixmap().isNull()) {
+        const QSize picture = label->pixmap().deviceIndependentSize().toSize();
+        if (picture.width() > room.width() || picture.height() > room.height()) {
+            problems << QStringLiteral("picture cut: ") + describe(label, QString());
+        }
+        return;
+    }
+    if (label->text().isEmpty()) {
+        return;
+    }
+    const QFontMetrics metrics = label->fontMetrics();
+    const QStringList lines = label->text().split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
+        if (metrics.horizontalAdvance(line) > room.width()) {
+            problems << QStringLiteral("text too wide: ") + describe(label, line);
+        }
+    }
+    const int textHeight = metrics.lineSpacing() * int(lines.size() - 1) + metrics.height();
+    if (textHeight > room.height()) {
+        problems << QStringLiteral("text too high: ") + describe(label, label->text());
+    }
+}
+
+// A button's size hint is what its text, icon and check indicator need.
+void checkButton(const QAbstractButton* button, QStringList& problems)
+{
+    const QSize needed = button->sizeHint();
+    if (needed.width() > button->width() || needed.height() > button->height()) {
+        problems
+            << QStringLiteral("button needs %1x%2: ").arg(needed.width()).arg(needed.height()) +
+                   describe(button, button->text());
+    }
+}
+
+// Where the style draws the group box's title.
+QRect titleRect(const QGroupBox* box)
+{
+    QStyleOptionGroupBox option;
+    option.initFrom(box);
+    option.text = box->title();
+    option.lineWidth = 1;
+    option.midLineWidth = 0;
+    option.textAlignment = box->alignment();
+    option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+    return box->style()->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel,
+                                        box);
+}
+
+void checkGroupBoxTitle(const QGroupBox* box, QStringList& problems)
+{
+    if (box->title().isEmpty()) {
+        return;
+    }
+    const QRect title = titleRect(box);
+    if (title.isEmpty() || !box->rect().contains(title)) {
+        problems << QStringLiteral("title cut: ") + describe(box, box->title());
+    }
+    for (const QWidget* child : box->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (child->isVisible() && child->geometry().intersects(title)) {
+            problems << QStringLiteral("title overlaps %1: ").arg(nameOf(child)) +
+                            describe(box, box->title());
+        }
+    }
+}
+
+// Every visible text, picture and group-box title under `root` that is cut off or overlapped.
+QStringList layoutProblems(const QWidget* root)
+{
+    QStringList problems;
+    for (const QWidget* widget : root->findChildren<QWidget*>()) {
+        if (!widget->isVisible()) {
+            continue;
+        }
+        if (!insideAncestors(widget, root)) {
+            problems << QStringLiteral("outside its parent: ") + describe(widget, QString());
+        }
+        if (const auto* label = qobject_cast<const QLabel*>(widget)) {
+            checkLabel(label, problems);
+        } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+            checkButton(button, problems);
+        } else if (const auto* box = qobject_cast<const QGroupBox*>(widget)) {
+            checkGroupBoxTitle(box, problems);
+        }
+    }
+    return problems;
+}
+
+} // namespace
+
+class PageLayoutTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void minimumSizeIsEnforcedAndFitsTheStartingWindow();
+    void everyTextFitsOnEveryPage_data();
+    void everyTextFitsOnEveryPage();
+    void plotPagesFillTheirPage_data();
+    void plotPagesFillTheirPage();
+    void toolWindowTitlesClearTheirContents();
+
+private:
+    QTabWidget* tabs() const;
+    void resizeTo(QSize size);
+    void expectNoProblems(const QWidget* root, const QString& where);
+
+    std::unique_ptr<MainWindow> window;
+};
+
+void PageLayoutTest::init()
+{
+    window = std::make_unique<MainWindow>();
+    window->move(0, 0);
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+}
+
+void PageLayoutTest::cleanup()
+{
+    window.reset();
+}
+
+QTabWidget* PageLayoutTest::tabs() const
+{
+    return window->findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+}
+
+// An empty size stands for the window's minimum size; the starting size leaves the window as
+// it opened.
+void PageLayoutTest::resizeTo(QSize size)
+{
+    const QSize target = size.isEmpty() ? window->minimumSize() : size;
+    window->resize(target);
+    QTRY_COMPARE(window->size(), target);
+}
+
+void PageLayoutTest::expectNoProblems(const QWidget* root, const QString& where)
+{
+    const QStringList problems = layoutProblems(root);
+    QVERIFY2(problems.isEmpty(),
+             qPrintable(where + QStringLiteral(":\n") + problems.join(QLatin1Char('\n'))));
+}
+
+void PageLayoutTest::minimumSizeIsEnforcedAndFitsTheStartingWindow()
+{
+    const QSize minimum = window->minimumSize();
+    QVERIFY(minimum.width() > 0 && minimum.height() > 0);
+    QVERIFY(minimum.width() <= kStartingSize.width() && minimum.height() <= kStartingSize.height());
+    window->resize(500, 400);
+    QTRY_COMPARE(window->size(), minimum);
+}
+
+void PageLayoutTest::everyTextFitsOnEveryPage_data()
+{
+    QTest::addColumn<QSize>("size");
+    QTest::newRow("as opened") << kStartingSize;
+    QTest::newRow("minimum") << QSize();
+    QTest::newRow("1920x1200") << QSize(1920, 1200);
+}
+
+// Every tab, the Roots tab with each example's texts and the pause button with both of its
+// texts.
+void PageLayoutTest::everyTextFitsOnEveryPage()
+{
+    QFETCH(QSize, size);
+    resizeTo(size);
+    for (int tab = 0; tab < TabCount; ++tab) {
+        tabs()->setCurrentIndex(tab);
+        QApplication::processEvents();
+        expectNoProblems(tabs()->currentWidget(), tabs()->tabText(tab));
+    }
+    tabs()->setCurrentIndex(RootsTab);
+    for (const char* example :
+         {"&Example 1: regular example", "&Example 2: b^2 >> 4ac", "&Example 3: b^2 ~ 4ac"}) {
+        QAction* action =
+            menuBarAction(*window, QStringLiteral("&Examples"), QString::fromLatin1(example));
+        QVERIFY2(action != nullptr, example);
+        action->trigger();
+        QApplication::processEvents();
+        expectNoProblems(tabs()->currentWidget(), QString::fromLatin1(example));
+    }
+    tabs()->setCurrentIndex(AssoTab);
+    auto* pause = window->findChild<QPushButton*>(QStringLiteral("associativelaw_pause"));
+    QSet<QString> pauseTexts;
+    for (int click = 0; click < 2; ++click) {
+        pause->click();
+        pauseTexts << pause->text();
+        expectNoProblems(tabs()->currentWidget(),
+                         QStringLiteral("Associative Law, ") + pause->text());
+    }
+    QCOMPARE(pauseTexts, QSet<QString>({QStringLiteral("Pause"), QStringLiteral("Resume")}));
+}
+
+void PageLayoutTest::plotPagesFillTheirPage_data()
+{
+    everyTextFitsOnEveryPage_data();
+}
+
+// The plot from the page's left edge, the panel up to its right edge, both full height.
+void PageLayoutTest::plotPagesFillTheirPage()
+{
+    QFETCH(QSize, size);
+    resizeTo(size);
+    const char* const pages[][2] = {{"pentagon_VisWindow", "pentagon_ControlWindow"},
+                                    {"associativelaw_VisWindow", "associativelaw_ControlWindow"},
+                                    {"sine_VisWindow", "sine_ControlWindow"}};
+    for (const auto& names : pages) {
+        auto* plot = window->findChild<QWidget*>(QString::fromLatin1(names[0]));
+        auto* panel = window->findChild<QWidget*>(QString::fromLatin1(names[1]));
+        tabs()->setCurrentWidget(plot->parentWidget());
+        QApplication::processEvents();
+        const QSize page = plot->parentWidget()->size();
+        QCOMPARE(plot->geometry().topLeft(), QPoint(0, 0));
+        QCOMPARE(plot->height(), page.height());
+        QCOMPARE(panel->height(), page.height());
+        QVERIFY2(panel->x() > plot->geometry().right(), names[1]);
+        QVERIFY2(panel->geometry().right() < page.width(), names[1]);
+        QVERIFY2(page.width() - panel->geometry().right() <= 10, names[1]);
+        QVERIFY2(panel->x() - plot->geometry().right() <= 10, names[1]);
+    }
+}
+
+// The associative law's focus, selection and colour-map windows at the size they open with.
+void PageLayoutTest::toolWindowTitlesClearTheirContents()
+{
+    tabs()->setCurrentIndex(AssoTab);
+    const char* const windows[][2] = {{"&Region focus ...", "Region focus"},
+                                      {"&Selections ...", "Selections"},
+                                      {"&Color map ...", "Color map"}};
+    for (const auto& entry : windows) {
+        QWidget* tool = popMenuWindow(*window, QStringLiteral("&Tools"),
+                                      QString::fromLatin1(entry[0]), QString::fromLatin1(entry[1]));
+        QVERIFY2(tool != nullptr, entry[1]);
+        QVERIFY(QTest::qWaitForWindowExposed(tool));
+        QVERIFY2(!tool->findChildren<QGroupBox*>().isEmpty(), entry[1]);
+        expectNoProblems(tool, QString::fromLatin1(entry[1]));
+    }
+}
+
+QTEST_MAIN(PageLayoutTest)
+#include "PageLayoutTest.moc"
