@@ -1,7 +1,7 @@
 #include "assoc/engine/AssoFiles.h"
 
 #include "common/core/CFormat.h"
-#include "common/core/WordReader.h"
+#include "common/core/ColorFile.h"
 
 using quillon::cformat;
 
@@ -20,37 +20,20 @@ const char* exportWord(int32_t code)
     }
 }
 
-void skipWords(quillon::WordReader& reader, int count)
-{
-    std::string ignored;
-    for (int i = 0; i < count; ++i) {
-        reader.readWord(ignored);
-    }
-}
-
 } // namespace
 
 std::string assoColorFileText(const AssoColors& colors)
 {
     std::string text;
     for (int k = 0; k < kAssoOrderCount; ++k) {
-        text += cformat("Func%d Color R %d G %d B %d\n", k, colors[k].red, colors[k].green,
-                        colors[k].blue);
+        text += quillon::colorFileLine(cformat("Func%d", k), colors[k]);
     }
     return text;
 }
 
 void readAssoColorFile(const std::string& text, AssoColors& colors)
 {
-    quillon::WordReader reader(text);
-    for (quillon::ColorTriple& color : colors) {
-        skipWords(reader, 3);
-        reader.readInt(color.red);
-        skipWords(reader, 1);
-        reader.readInt(color.green);
-        skipWords(reader, 1);
-        reader.readInt(color.blue);
-    }
+    quillon::readColorFileLines(text, colors.data(), colors.size());
 }
 
 std::string assoTextExport(const AssoSequences& sequences)
