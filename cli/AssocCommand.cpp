@@ -85,18 +85,6 @@ int AssocCommand::run(const QStringList& arguments, const CliStreams& streams) c
     AssoSequences sequences;
     computeSequences(growth, start, count, sequences);
 
-    if (!parser.isSet(txt) && !parser.isSet(csv)) {
-        std::fputs(assoCsvExport(sequences, count).c_str(), streams.out);
-        return ExitSuccess;
-    }
-    if (parser.isSet(txt)) {
-        if (const int status = writeExport(streams, parser.value(txt), assoTextExport(sequences));
-            status != ExitSuccess) {
-            return status;
-        }
-    }
-    if (parser.isSet(csv)) {
-        return writeExport(streams, parser.value(csv), assoCsvExport(sequences, count));
-    }
-    return ExitSuccess;
+    return writeExports(streams, parser, txt, csv, assoTextExport(sequences),
+                        assoCsvExport(sequences, count));
 }

@@ -42,3 +42,23 @@ int CliCommand::writeExport(const CliStreams& streams, const QString& path,
     std::fprintf(streams.err, "save file %s done\n", qPrintable(path));
     return ExitSuccess;
 }
+
+int CliCommand::writeExports(const CliStreams& streams, const QCommandLineParser& parser,
+                             const QCommandLineOption& txt, const QCommandLineOption& csv,
+                             const std::string& textExport, const std::string& csvExport) const
+{
+    if (!parser.isSet(txt) && !parser.isSet(csv)) {
+        std::fputs(csvExport.c_str(), streams.out);
+        return ExitSuccess;
+    }
+    if (parser.isSet(txt)) {
+        if (const int status = writeExport(streams, parser.value(txt), textExport);
+            status != ExitSuccess) {
+            return status;
+        }
+    }
+    if (parser.isSet(csv)) {
+        return writeExport(streams, parser.value(csv), csvExport);
+    }
+    return ExitSuccess;
+}

@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 
+class QCommandLineOption;
 class QCommandLineParser;
 
 // Exit statuses of quillon-cli.
@@ -44,4 +45,11 @@ protected:
     // Returns ExitSuccess, or ExitFileError after a one-line reason.
     int writeExport(const CliStreams& streams, const QString& path,
                     const std::string& contents) const;
+
+    // Writes the text export to the file of option `txt` and the comma-separated export to
+    // that of option `csv`, each when given; with neither, the comma-separated export goes to
+    // standard output. Returns the first failure's status, or ExitSuccess.
+    int writeExports(const CliStreams& streams, const QCommandLineParser& parser,
+                     const QCommandLineOption& txt, const QCommandLineOption& csv,
+                     const std::string& textExport, const std::string& csvExport) const;
 };

@@ -1,6 +1,7 @@
 #include "cli/AssocCommand.h"
 #include "cli/CliRunner.h"
 #include "cli/RootsCommand.h"
+#include "cli/SineCommand.h"
 
 #include <QCoreApplication>
 
@@ -10,5 +11,6 @@ int main(int argc, char* argv[])
     CliRunner runner;
     runner.addCommand(std::make_unique<RootsCommand>());
     runner.addCommand(std::make_unique<AssocCommand>());
+    runner.addCommand(std::make_unique<SineCommand>());
     return runner.run(QCoreApplication::arguments(), {stdout, stderr});
 }

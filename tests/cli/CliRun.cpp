@@ -1,5 +1,7 @@
 #include "tests/cli/CliRun.h"
 
+#include <QFile>
+
 #include <QProcess>
 
 CliRun CliRun::of(const QStringList& arguments)
@@ -15,4 +17,11 @@ CliRun CliRun::of(const QStringList& arguments)
     run.out = QString::fromUtf8(process.readAllStandardOutput());
     run.err = QString::fromUtf8(process.readAllStandardError());
     return run;
+}
+
+QString fileText(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll())
+                                          : QStringLiteral("<cannot read %1>").arg(path);
 }

@@ -12,3 +12,7 @@ struct CliRun {
     // Runs the quillon-cli that this build made with `arguments` and waits for it.
     static CliRun of(const QStringList& arguments);
 };
+
+// The whole text of a file, or "<cannot read PATH>" when it cannot be read, so that a
+// comparison with it fails and names the file.
+QString fileText(const QString& path);
