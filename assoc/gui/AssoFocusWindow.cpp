@@ -71,7 +71,7 @@ QSlider* AssoFocusWindow::addSlider(QGridLayout* grid, int row, const QString& c
 
 void AssoFocusWindow::refresh()
 {
-    const AssoXWindow& window = scene->xWindow();
+    const quillon::PlotXWindow& window = scene->xWindow();
     const int n = scene->getN();
     const QSignalBlocker blockStart(startPoint);
     const QSignalBlocker blockEnd(endPoint);

@@ -454,7 +454,7 @@ AssoPlotContent AssoOpenGLScene::plotContent() const
 
 float AssoOpenGLScene::nodeX(int n) const
 {
-    return assoNodeX(window, n, xMin, xMax);
+    return quillon::plotNodeX(window, n, xMin, xMax);
 }
 
 float AssoOpenGLScene::nodePixelX(int n) const
@@ -528,7 +528,7 @@ void AssoOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
         pressX = float(event->scenePos().x());
         pressY = float(event->scenePos().y());
         if (showLabels) {
-            const int row = assoLegendRowAt(mouseY, viewHeight);
+            const int row = quillon::plotLegendRowAt(mouseY, viewHeight);
             if (row >= 0 && row < kAssoOrderCount) {
                 needFunc[row] = !needFunc[row];
                 syncSelectionWindow();
@@ -549,7 +549,7 @@ void AssoOpenGLScene::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
     mouseY = float(event->scenePos().y());
     showErrorMessages = mouseOnErrorIcon();
     if (showLabels) {
-        highlightedFunc = assoLegendRowAt(mouseY, viewHeight);
+        highlightedFunc = quillon::plotLegendRowAt(mouseY, viewHeight);
     }
     repaint();
 }
@@ -583,9 +583,9 @@ void AssoOpenGLScene::zoomTo(float releaseX, float releaseY)
     if (zoomHistory.empty()) {
         zoomHistory.push_back({window.start, window.end, yMin, yMax});
     }
-    const AssoZoomState zoomed =
-        assoZoom(window, yMin, yMax, N, xMin, xMax,
-                 {pressX, pressY, releaseX, releaseY, viewWidth, viewHeight});
+    const quillon::PlotZoomState zoomed =
+        quillon::plotZoom(window, yMin, yMax, N, xMin, xMax,
+                          {pressX, pressY, releaseX, releaseY, viewWidth, viewHeight});
     window.end = zoomed.end;
     yMin = zoomed.yMin;
     yMax = zoomed.yMax;
@@ -880,7 +880,7 @@ void AssoOpenGLScene::drawLegend(QPainter* painter) const
 
 void AssoOpenGLScene::drawSpreadReadout(QPainter* painter) const
 {
-    const int current = assoCurrentNode(window, N, xMin, xMax);
+    const int current = quillon::plotCurrentNode(window, N, xMin, xMax);
     if (current < 0) {
         return;
     }

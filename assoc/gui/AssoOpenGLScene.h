@@ -41,7 +41,7 @@ public:
     float getR() const { return R; }
     float getX0() const { return X0; }
     int getN() const { return N; }
-    const AssoXWindow& xWindow() const { return window; }
+    const quillon::PlotXWindow& xWindow() const { return window; }
     const AssoSequences& sequences() const { return results; }
     const AssoColors& colors() const { return colours; }
     void setColor(int order, const quillon::ColorTriple& color);
@@ -156,7 +156,7 @@ private:
     float R = 3.0f;
     AssoColors colours;
     std::array<bool, kAssoOrderCount> needFunc = {true, true, true, true, true};
-    AssoXWindow window;
+    quillon::PlotXWindow window;
     int minSpeed = -5;
     int maxSpeed = 5;
     int speed = 0;
@@ -195,7 +195,7 @@ private:
     // has thousands of them: they are painted into an image once per change and the image is
     // drawn on every frame.
     struct XIndexLayerKey {
-        AssoXWindow window;
+        quillon::PlotXWindow window;
         int n;
         int width;
         int height;

@@ -312,7 +312,7 @@ void AssoTabTest::ticksStopAtTheLastFullWindow()
 void AssoTabTest::dragZoomsAndRightClickUndoes()
 {
     runUntil([this] { return scene->xWindow().slideInDone(); });
-    const AssoXWindow before = scene->xWindow();
+    const quillon::PlotXWindow before = scene->xWindow();
     const float yMaxBefore = scene->getYMax();
     QWidget* viewport = view->viewport();
     QTest::mouseMove(viewport, viewPoint(0.25, 0.2));
@@ -338,7 +338,7 @@ void AssoTabTest::dragZoomsAndRightClickUndoes()
 void AssoTabTest::clickWithoutMovementDoesNotZoom()
 {
     QWidget* viewport = view->viewport();
-    const AssoXWindow before = scene->xWindow();
+    const quillon::PlotXWindow before = scene->xWindow();
     QTest::mouseMove(viewport, viewPoint(0.4, 0.3));
     QTest::mouseClick(viewport, Qt::LeftButton, {}, viewPoint(0.4, 0.3));
     QCOMPARE(scene->zoomDepth(), 0);
@@ -406,10 +406,10 @@ void AssoTabTest::curveStopsAtItsFirstError()
     focus->startSlider()->setValue(30);
     QCOMPARE(scene->xWindow().start, 30);
     runUntil([this] { return scene->xWindow().slideInDone(); });
-    const AssoXWindow shown = scene->xWindow();
+    const quillon::PlotXWindow shown = scene->xWindow();
     QVERIFY(shown.start <= 42 && shown.end >= 44);
     const auto pixelOf = [&](int n) {
-        return int(view->width() * (assoNodeX(shown, n, -1.5f, 1.5f) + 1.5f) / 3.0f);
+        return int(view->width() * (quillon::plotNodeX(shown, n, -1.5f, 1.5f) + 1.5f) / 3.0f);
     };
     const QImage frame = grabPlot();
     const QColor purple(128, 0, 128);
@@ -744,7 +744,7 @@ QList<PaintedText> AssoTabTest::paintedTexts() const
 
 void AssoTabTest::expectFocusShowsTheWindow(AssoFocusWindow* focus)
 {
-    const AssoXWindow& shown = scene->xWindow();
+    const quillon::PlotXWindow& shown = scene->xWindow();
     QCOMPARE(focus->startSlider()->value(), shown.start);
     QCOMPARE(focus->startSlider()->maximum(), shown.end - 1);
     QCOMPARE(focus->endSlider()->value(), shown.end);
