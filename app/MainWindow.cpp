@@ -13,7 +13,13 @@
 #include "roots/gui/RootsHelpWindow.h"
 #include "roots/gui/RootsPage.h"
 #include "roots/gui/RootsUserMenu.h"
+#include "sine/gui/SineColorMap.h"
+#include "sine/gui/SineFocusWindow.h"
+#include "sine/gui/SineHelpWindow.h"
 #include "sine/gui/SineOpenGLScene.h"
+#include "sine/gui/SineSelectionWindow.h"
+#include "sine/gui/SineStatusWindow.h"
+#include "sine/gui/SineUserMenu.h"
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
@@ -55,8 +61,7 @@ MainWindow::MainWindow(QWidget* parent)
     pentagonScene = new PentagonOpenGLScene(this);
     pentagonView = attachPlotView(ui->pentagon_VisWindow, pentagonScene);
     setUpAssoTab();
-    sineScene = new SineOpenGLScene(this);
-    sineView = attachPlotView(ui->sine_VisWindow, sineScene);
+    setUpSineTab();
 
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MainWindow::tab_Index_Changed);
     tab_Index_Changed(RootsTab);
@@ -161,6 +166,75 @@ void MainWindow::setUpAssoTab()
     setFileRoutine(FileAction::AssoSaveCsv,
                    [scene](const QString& name) { return scene->saveCsvData(name); });
     assoTimer->start(400);
+}
+
+void MainWindow::setUpSineTab()
+{
+    sineTimer = new QTimer(this);
+    sineTimer->setObjectName(QStringLiteral("sine_timer"));
+    sineScene = new SineOpenGLScene(SinePanel::find(ui->sine_win, sineTimer), this);
+    connect(sineTimer, &QTimer::timeout, sineScene, &SineOpenGLScene::runningMan);
+    auto* selection = new SineSelectionWindow(sineScene);
+    auto* status = new SineStatusWindow(sineScene);
+    auto* colorMap = new SineColorMap(sineScene);
+    auto* focus = new SineFocusWindow(sineScene);
+    sineScene->setSelectionWindow(selection);
+    sineScene->setStatusWindow(status);
+    sineScene->setFocusWindow(focus);
+    colorMap->setStatusWindow(status);
+    installAuxiliaryWindow(AuxWindow::SineSelection, selection);
+    installAuxiliaryWindow(AuxWindow::SineStatus, status);
+    installAuxiliaryWindow(AuxWindow::SineColorMap, colorMap);
+    installAuxiliaryWindow(AuxWindow::SineHelp, new SineHelpWindow(tr("About")));
+    installAuxiliaryWindow(AuxWindow::SineUserMenu, new SineUserMenu(tr("Help")));
+    connectSinePanel();
+    installAuxiliaryWindow(AuxWindow::SineFocus, focus);
+    sineView = attachPlotView(ui->sine_VisWindow, sineScene);
+    sineScene->setUpPanel();
+
+    SineOpenGLScene* scene = sineScene;
+    // A loaded colour file shows in the colour map and the status window's swatches too.
+    setFileRoutine(FileAction::SineOpen, [scene, colorMap, status](const QString& name) {
+        const QString failure = scene->loadColorFile(name);
+        if (failure.isEmpty()) {
+            colorMap->resetColorChange();
+            status->refreshColors();
+        }
+        return failure;
+    });
+    setFileRoutine(FileAction::SineSave,
+                   [scene](const QString& name) { return scene->saveColorFile(name); });
+    setFileRoutine(FileAction::SineSaveTxt,
+                   [scene](const QString& name) { return scene->saveTextData(name); });
+    setFileRoutine(FileAction::SineSaveCsv,
+                   [scene](const QString& name) { return scene->saveCsvData(name); });
+    sineTimer->start(400);
+}
+
+void MainWindow::connectSinePanel()
+{
+    SineOpenGLScene* scene = sineScene;
+    connect(ui->sine_iteration_input, &QLineEdit::returnPressed, scene,
+            &SineOpenGLScene::updateMaxItera);
+    connect(ui->sine_X_input, &QLineEdit::returnPressed, scene, &SineOpenGLScene::updateX);
+    connect(ui->sine_calculate, &QPushButton::clicked, scene, &SineOpenGLScene::calculate);
+    const std::pair<QCheckBox*, void (SineOpenGLScene::*)(bool)> boxes[] = {
+        {ui->sine_showboundary, &SineOpenGLScene::setShowBoundary},
+        {ui->sine_showvalues, &SineOpenGLScene::setShowValues},
+        {ui->sine_showXAxis, &SineOpenGLScene::setNeedXAxis},
+        {ui->sine_showYAxis, &SineOpenGLScene::setNeedYAxis},
+        {ui->sine_showXIndices, &SineOpenGLScene::need2ShowXIndices},
+        {ui->sine_showYIndices, &SineOpenGLScene::need2ShowYIndices},
+        {ui->sine_showLabels, &SineOpenGLScene::need2ShowLabels},
+        {ui->sine_needErrorComparison, &SineOpenGLScene::needErrorComparison}};
+    for (const auto& [box, slot] : boxes) {
+        connect(box, &QCheckBox::toggled, scene, slot);
+    }
+    connect(ui->sine_deceleration, &QPushButton::clicked, scene, &SineOpenGLScene::decelerate);
+    connect(ui->sine_acceleration, &QPushButton::clicked, scene, &SineOpenGLScene::accelerate);
+    connect(ui->sine_pause, &QPushButton::clicked, scene, &SineOpenGLScene::pause);
+    connect(ui->sine_time_slider, &QSlider::valueChanged, scene,
+            &SineOpenGLScene::setTimeStartpoint);
 }
 
 void MainWindow::installAuxiliaryWindow(AuxWindow window, QWidget* widget)

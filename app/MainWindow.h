@@ -96,6 +96,8 @@ private:
     void buildMenus();
     void setUpRootsTab();
     void setUpAssoTab();
+    void setUpSineTab();
+    void connectSinePanel();
     void enableActionFor(const char* slot);
     GraphicsView* attachPlotView(QWidget* placeholder, QGraphicsScene* scene);
     void layOutPages(int width, int height);
@@ -113,6 +115,7 @@ private:
     GraphicsView* pentagonView = nullptr;
     AssoOpenGLScene* assoScene = nullptr;
     QTimer* assoTimer = nullptr;
+    QTimer* sineTimer = nullptr;
     GraphicsView* assoView = nullptr;
     SineOpenGLScene* sineScene = nullptr;
     GraphicsView* sineView = nullptr;

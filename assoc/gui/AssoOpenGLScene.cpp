@@ -2,12 +2,14 @@
 
 #include "assoc/gui/AssoFocusWindow.h"
 #include "assoc/gui/AssoSelectionWindow.h"
+#include "common/core/AnimationSpeed.h"
 #include "common/core/CFormat.h"
 #include "common/core/SafeFileWriter.h"
 #include "common/core/TextFileReader.h"
 #include "common/gui/FieldValidators.h"
 #include "common/gui/GlPlotFrame.h"
 #include "common/gui/ImageLookup.h"
+#include "common/gui/PlotOverlay.h"
 #include "common/gui/QtColor.h"
 
 #include <GL/gl.h>
@@ -26,19 +28,9 @@ using quillon::cformat;
 namespace
 {
 
-constexpr int kBaseInterval = 400;
-constexpr int kGridLines = 21;
-
 QString qformat(const std::string& text)
 {
     return QString::fromStdString(text);
-}
-
-QFont overlayFont()
-{
-    QFont font(QStringLiteral("times"), 10);
-    font.setWeight(QFont::Bold);
-    return font;
 }
 
 const char* screenWord(int32_t code)
@@ -61,7 +53,7 @@ QString fileError(const std::string& error)
 } // namespace
 
 AssoOpenGLScene::AssoOpenGLScene(const AssoPanel& panel, QObject* parent)
-    : OpenGLPlotScene(parent), panel(panel), indexLabels(overlayFont())
+    : OpenGLPlotScene(parent), panel(panel), indexLabels(quillon::plotOverlayFont())
 {
     colours = {{{128, 0, 128}, {0, 128, 128}, {255, 69, 0}, {128, 128, 0}, {0, 255, 0}}};
     for (int k = 0; k < kAssoOrderCount; ++k) {
@@ -312,33 +304,18 @@ void AssoOpenGLScene::refreshFocusWindow()
 
 void AssoOpenGLScene::setStartpoint(int value)
 {
-    if (isFixingNodeCount()) {
-        if (window.end - window.start + value > N - 1) {
-            return;
-        }
-        window.end += value - window.start;
-    } else if (value >= N - 1) {
-        return;
+    if (quillon::plotMoveStart(window, value, N, isFixingNodeCount())) {
+        refreshFocusWindow();
+        repaint();
     }
-    window.start = value;
-    refreshFocusWindow();
-    repaint();
 }
 
 void AssoOpenGLScene::setEndpoint(int value)
 {
-    if (isFixingNodeCount()) {
-        if (window.start - window.end + value < 0) {
-            return;
-        }
-        window.start += value - window.end;
-    } else if (value <= window.step) {
-        // Compared with the step size, not with the start point.
-        return;
+    if (quillon::plotMoveEnd(window, value, isFixingNodeCount())) {
+        refreshFocusWindow();
+        repaint();
     }
-    window.end = value;
-    refreshFocusWindow();
-    repaint();
 }
 
 void AssoOpenGLScene::setStepsize(int value)
@@ -376,22 +353,8 @@ void AssoOpenGLScene::decelerate()
 
 void AssoOpenGLScene::speedAdjust()
 {
-    if (speed < maxSpeed) {
-        panel.accelerate->setEnabled(true);
-    } else {
-        speed = maxSpeed;
-        panel.accelerate->setEnabled(false);
-    }
-    if (speed > minSpeed) {
-        panel.decelerate->setEnabled(true);
-    } else {
-        speed = minSpeed;
-        panel.decelerate->setEnabled(false);
-    }
-    const int interval = speed == 0  ? kBaseInterval
-                         : speed > 0 ? kBaseInterval / speed
-                                     : kBaseInterval * -speed;
-    panel.timer->setInterval(interval);
+    quillon::applySpeedLevel(speed, minSpeed, maxSpeed, panel.accelerate, panel.decelerate,
+                             panel.timer);
     repaint();
 }
 
@@ -469,7 +432,7 @@ float AssoOpenGLScene::valuePixelY(float value) const
 
 float AssoOpenGLScene::gridValue(int i) const
 {
-    return (yMin + yMax) * 0.5f + (yMax - yMin) / 20.0f * float(i - 10);
+    return quillon::plotGridValue(i, yMin, yMax);
 }
 
 void AssoOpenGLScene::fitYRange()
@@ -488,11 +451,7 @@ void AssoOpenGLScene::fitYRange()
 
 QRectF AssoOpenGLScene::errorIconRect(int n) const
 {
-    const int rowHeight = int(std::floor(0.25 * viewHeight)) / 5;
-    const int size = std::min(viewWidth / 15, rowHeight);
-    const double left = std::floor(nodePixelX(n)) - size / 2;
-    const double top = std::floor(0.2 * viewHeight) + size / 2;
-    return QRectF(left, top, size, size);
+    return quillon::plotErrorIconRect(nodePixelX(n), viewWidth, viewHeight);
 }
 
 bool AssoOpenGLScene::mouseOnErrorIcon() const
@@ -507,8 +466,8 @@ bool AssoOpenGLScene::mouseOnErrorIcon() const
                 continue;
             }
             const QRectF icon = errorIconRect(n);
-            if (icon.left() <= mouseX && mouseX <= icon.right() && icon.top() <= mouseY &&
-                mouseY <= icon.bottom()) {
+            if (icon.left() <= mouse.x() && mouse.x() <= icon.right() && icon.top() <= mouse.y() &&
+                mouse.y() <= icon.bottom()) {
                 return true;
             }
         }
@@ -525,10 +484,9 @@ void AssoOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
         return;
     }
     if (event->button() == Qt::LeftButton) {
-        pressX = float(event->scenePos().x());
-        pressY = float(event->scenePos().y());
+        mouse.press(float(event->scenePos().x()), float(event->scenePos().y()));
         if (showLabels) {
-            const int row = quillon::plotLegendRowAt(mouseY, viewHeight);
+            const int row = quillon::plotLegendRowAt(mouse.y(), viewHeight);
             if (row >= 0 && row < kAssoOrderCount) {
                 needFunc[row] = !needFunc[row];
                 syncSelectionWindow();
@@ -545,11 +503,10 @@ void AssoOpenGLScene::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
     if (event->isAccepted()) {
         return;
     }
-    mouseX = float(event->scenePos().x());
-    mouseY = float(event->scenePos().y());
+    mouse.moveTo(float(event->scenePos().x()), float(event->scenePos().y()));
     showErrorMessages = mouseOnErrorIcon();
     if (showLabels) {
-        highlightedFunc = quillon::plotLegendRowAt(mouseY, viewHeight);
+        highlightedFunc = quillon::plotLegendRowAt(mouse.y(), viewHeight);
     }
     repaint();
 }
@@ -560,52 +517,13 @@ void AssoOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
     if (event->isAccepted()) {
         return;
     }
-    const float releaseX = float(event->scenePos().x());
-    const float releaseY = float(event->scenePos().y());
-    if (event->button() == Qt::LeftButton) {
-        if (std::fabs(releaseX - pressX) >= 1e-11f || std::fabs(releaseY - pressY) >= 1e-11f) {
-            zoomTo(releaseX, releaseY);
-        }
-        pressX = -1.0f;
-        pressY = -1.0f;
-    } else if (event->button() == Qt::RightButton) {
-        undoZoom();
+    const quillon::PlotMouse::View view{window, yMin, yMax, N, xMin, xMax, viewWidth, viewHeight};
+    if (mouse.release(event->button(), float(event->scenePos().x()), float(event->scenePos().y()),
+                      view)) {
+        refreshFocusWindow();
     }
     event->accept();
     repaint();
-}
-
-void AssoOpenGLScene::zoomTo(float releaseX, float releaseY)
-{
-    if (!(pressX > 0 && pressY > 0) || viewWidth <= 0 || viewHeight <= 0) {
-        return;
-    }
-    if (zoomHistory.empty()) {
-        zoomHistory.push_back({window.start, window.end, yMin, yMax});
-    }
-    const quillon::PlotZoomState zoomed =
-        quillon::plotZoom(window, yMin, yMax, N, xMin, xMax,
-                          {pressX, pressY, releaseX, releaseY, viewWidth, viewHeight});
-    window.end = zoomed.end;
-    yMin = zoomed.yMin;
-    yMax = zoomed.yMax;
-    window.start = zoomed.start;
-    zoomHistory.push_back({window.start, window.end, yMin, yMax});
-    repaint();
-}
-
-void AssoOpenGLScene::undoZoom()
-{
-    if (!zoomHistory.empty()) {
-        zoomHistory.pop_back();
-    }
-    if (!zoomHistory.empty()) {
-        const ZoomEntry& previous = zoomHistory.back();
-        window.start = previous.start;
-        window.end = previous.end;
-        yMin = previous.yMin;
-        yMax = previous.yMax;
-    }
 }
 
 // ---- background ---------------------------------------------------------------------------
@@ -635,7 +553,7 @@ void AssoOpenGLScene::drawReferenceLines() const
         glVertex3f(xMax, y, gridDepth);
     }
     if (needYAxis) {
-        for (int i = 0; i < kGridLines; ++i) {
+        for (int i = 0; i < quillon::kPlotGridLines; ++i) {
             glVertex3f(xMin, gridValue(i), gridDepth);
             glVertex3f(xMax, gridValue(i), gridDepth);
         }
@@ -683,7 +601,7 @@ void AssoOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
         drawXIndices(painter);
     }
     if (showYIndices) {
-        drawYIndices(painter);
+        quillon::drawPlotValueLabels(painter, yMin, yMax, viewHeight);
     }
     if (needXAxis) {
         drawXAxisLines(painter);
@@ -695,7 +613,7 @@ void AssoOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
     if (showErrorMessages) {
         drawErrorMessages(painter);
     }
-    drawRubberBand(painter);
+    mouse.drawRubberBand(painter);
     if (showLabels) {
         drawLegend(painter);
     }
@@ -731,10 +649,10 @@ void AssoOpenGLScene::paintXIndexLayer() const
     xIndexLayer = QImage(std::max(viewWidth, 1), depth, QImage::Format_ARGB32_Premultiplied);
     xIndexLayer.fill(Qt::transparent);
     QPainter painter(&xIndexLayer);
-    painter.setFont(overlayFont());
+    painter.setFont(quillon::plotOverlayFont());
     painter.setPen(Qt::darkBlue);
     painter.rotate(90);
-    const qreal ascent = QFontMetricsF(overlayFont()).ascent();
+    const qreal ascent = QFontMetricsF(quillon::plotOverlayFont()).ascent();
     for (int n = std::max(window.start, 0); n <= window.end && n < N; ++n) {
         if (!window.displays(n)) {
             continue;
@@ -742,18 +660,6 @@ void AssoOpenGLScene::paintXIndexLayer() const
         const float x = nodePixelX(n) - float(indexLabels.width(n)) / 2.0f;
         // Static texts are placed by their top-left corner, text by its baseline.
         painter.drawStaticText(QPointF(2, -(x + 2) - ascent), indexLabels.staticText(n));
-    }
-}
-
-void AssoOpenGLScene::drawYIndices(QPainter* painter) const
-{
-    painter->setFont(overlayFont());
-    painter->setPen(Qt::darkMagenta);
-    const float halfHeight = float(QFontMetrics(overlayFont()).height()) / 2.0f;
-    for (int i = 0; i < kGridLines; ++i) {
-        const float value = gridValue(i);
-        painter->drawText(QPointF(0, valuePixelY(value) + halfHeight),
-                          qformat(cformat("%.2e", double(value))));
     }
 }
 
@@ -775,7 +681,7 @@ void AssoOpenGLScene::drawXAxisLines(QPainter* painter) const
 void AssoOpenGLScene::drawYAxisLines(QPainter* painter) const
 {
     painter->setPen(Qt::darkMagenta);
-    for (int i = 0; i < kGridLines; ++i) {
+    for (int i = 0; i < quillon::kPlotGridLines; ++i) {
         const float y = valuePixelY(gridValue(i));
         painter->drawLine(QPointF(0, y), QPointF(viewWidth, y));
     }
@@ -815,7 +721,7 @@ void AssoOpenGLScene::drawErrorMessages(QPainter* painter) const
             }
         }
     }
-    const QFontMetrics metrics(overlayFont());
+    const QFontMetrics metrics(quillon::plotOverlayFont());
     const int lineHeight = metrics.height();
     const int total = int(messages.size());
     int widest = 0;
@@ -828,31 +734,21 @@ void AssoOpenGLScene::drawErrorMessages(QPainter* painter) const
                                                  m.iteration, screenWord(m.code)));
         const int width = metrics.horizontalAdvance(measured);
         widest = std::max(widest, width);
-        below = below || mouseY - float(i * lineHeight) < 0;
-        left = left || mouseX + float(width) > float(viewWidth);
+        below = below || mouse.y() - float(i * lineHeight) < 0;
+        left = left || mouse.x() + float(width) > float(viewWidth);
     }
-    painter->setFont(overlayFont());
+    painter->setFont(quillon::plotOverlayFont());
     painter->setPen(QColor(255, 0, 0));
     for (int i = 0; i < total; ++i) {
         const Message& m = messages[i];
         const QString text = qformat(cformat("func %d at iter %d gets an error: %s\n", m.order,
                                              m.iteration, screenWord(m.code)));
-        const float x = left ? mouseX - float(widest) : mouseX;
-        const float y = below ? mouseY + float((total - i) * lineHeight)
-                              : mouseY - float((total - i) * lineHeight);
+        const float x = left ? mouse.x() - float(widest) : mouse.x();
+        const float y = below ? mouse.y() + float((total - i) * lineHeight)
+                              : mouse.y() - float((total - i) * lineHeight);
         painter->drawText(QRectF(x, y, metrics.horizontalAdvance(text), lineHeight), Qt::AlignLeft,
                           text.trimmed());
     }
-}
-
-void AssoOpenGLScene::drawRubberBand(QPainter* painter) const
-{
-    if (pressX == -1.0f || pressY == -1.0f) {
-        return;
-    }
-    painter->setPen(Qt::black);
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRect(QRectF(QPointF(pressX, pressY), QPointF(mouseX, mouseY)));
 }
 
 void AssoOpenGLScene::drawLegend(QPainter* painter) const
@@ -902,9 +798,9 @@ void AssoOpenGLScene::drawSpreadReadout(QPainter* painter) const
     }
     const QString text =
         qformat(cformat("Error: %2e\n", double(largest) - double(smallest))).trimmed();
-    painter->setFont(overlayFont());
+    painter->setFont(quillon::plotOverlayFont());
     painter->setPen(QPen());
-    const int textHeight = QFontMetrics(overlayFont()).height();
+    const int textHeight = QFontMetrics(quillon::plotOverlayFont()).height();
     const float boxTop = float(0.75 * viewHeight) - float(int(std::floor(0.25 * viewHeight)) / 5);
     painter->drawText(QRectF(0, boxTop, viewWidth, textHeight), Qt::AlignLeft | Qt::AlignVCenter,
                       text);

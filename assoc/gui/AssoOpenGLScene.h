@@ -6,6 +6,7 @@
 #include "assoc/gui/AssoPanel.h"
 #include "common/gui/IndexLabels.h"
 #include "common/gui/OpenGLPlotScene.h"
+#include "common/gui/PlotMouse.h"
 
 #include <QImage>
 #include <QString>
@@ -51,7 +52,7 @@ public:
     int speedLevel() const { return speed; }
     int highlightedFunction() const { return highlightedFunc; }
     bool showsErrorMessages() const { return showErrorMessages; }
-    int zoomDepth() const { return int(zoomHistory.size()); }
+    int zoomDepth() const { return mouse.zoomDepth(); }
     // The square of the error icon of iteration n in view pixels.
     QRectF errorIconRect(int n) const;
 
@@ -106,13 +107,6 @@ protected:
     void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
 
 private:
-    struct ZoomEntry {
-        int start;
-        int end;
-        float yMin;
-        float yMax;
-    };
-
     void computeSequences();
     void refreshPanel();
     void shiftWindowBack();
@@ -129,19 +123,15 @@ private:
     float valuePixelY(float value) const;
     float gridValue(int i) const;
     bool mouseOnErrorIcon() const;
-    void zoomTo(float releaseX, float releaseY);
-    void undoZoom();
 
     void drawReferenceLines() const;
     void drawCurves() const;
     void drawXIndices(QPainter* painter) const;
     void paintXIndexLayer() const;
-    void drawYIndices(QPainter* painter) const;
     void drawXAxisLines(QPainter* painter) const;
     void drawYAxisLines(QPainter* painter) const;
     void drawErrorIcons(QPainter* painter) const;
     void drawErrorMessages(QPainter* painter) const;
-    void drawRubberBand(QPainter* painter) const;
     void drawLegend(QPainter* painter) const;
     void drawSpreadReadout(QPainter* painter) const;
 
@@ -175,10 +165,7 @@ private:
     int gridLineWidth = 1;
     int curveWidthOffset = 2;
     bool showErrorMessages = false;
-    float mouseX = 0.0f;
-    float mouseY = 0.0f;
-    float pressX = -1.0f;
-    float pressY = -1.0f;
+    quillon::PlotMouse mouse;
     int highlightedFunc = -1;
     float highlightedDepth = 3.0f;
     float normalDepth = 2.0f;
@@ -188,7 +175,6 @@ private:
     QImage checkedImage;
     QImage uncheckedImage;
     QImage errorImage;
-    std::vector<ZoomEntry> zoomHistory;
     // Index labels are the same on every frame; painting is const, the cache is not.
     mutable quillon::IndexLabels indexLabels;
     // The X index labels change only with the window and the view's size, yet a long window

@@ -27,6 +27,34 @@ float clampFraction(float value)
 
 } // namespace
 
+bool plotMoveStart(PlotXWindow& window, int value, int count, bool keepWidth)
+{
+    if (keepWidth) {
+        if (window.end - window.start + value > count - 1) {
+            return false;
+        }
+        window.end += value - window.start;
+    } else if (value >= count - 1) {
+        return false;
+    }
+    window.start = value;
+    return true;
+}
+
+bool plotMoveEnd(PlotXWindow& window, int value, bool keepWidth)
+{
+    if (keepWidth) {
+        if (window.start - window.end + value < 0) {
+            return false;
+        }
+        window.start += value - window.end;
+    } else if (value <= window.step) {
+        return false;
+    }
+    window.end = value;
+    return true;
+}
+
 float plotNodeX(const PlotXWindow& window, int n, float xMin, float xMax)
 {
     const float width = (xMax - xMin) / float(window.end - window.start);
@@ -80,6 +108,11 @@ PlotZoomState plotZoom(const PlotXWindow& window, float yMin, float yMax, int n,
         newEnd = newEnd >= n - 1 ? window.end - 1 : newEnd + 1;
     }
     return {newStart, newEnd, ya, yb};
+}
+
+float plotGridValue(int j, float yMin, float yMax)
+{
+    return (yMin + yMax) * 0.5f + (yMax - yMin) / 20.0f * float(j - 10);
 }
 
 int plotLegendRowAt(float y, int height)

@@ -18,6 +18,16 @@ struct PlotXWindow {
     bool slideInDone() const { return step * animationPosition >= end - start + 1; }
 };
 
+// Moves the window's start to `value` for a plot of `count` indices; returns false, changing
+// nothing, when the move is refused. With keepWidth the end moves along, refused when it would
+// pass count - 1; otherwise the start must stay below count - 1.
+bool plotMoveStart(PlotXWindow& window, int value, int count, bool keepWidth);
+
+// Moves the window's end to `value`; returns false, changing nothing, when refused. With
+// keepWidth the start moves along, refused when it would fall below 0; otherwise the end must
+// lie above the step size (compared with the step, not with the start).
+bool plotMoveEnd(PlotXWindow& window, int value, bool keepWidth);
+
 // The horizontal scene coordinate of index n, in single precision, for a plot spanning
 // xMin..xMax.
 float plotNodeX(const PlotXWindow& window, int n, float xMin, float xMax);
@@ -42,6 +52,10 @@ struct PlotZoomState {
 // of `count` indices.
 PlotZoomState plotZoom(const PlotXWindow& window, float yMin, float yMax, int count, float xMin,
                        float xMax, const PlotZoomRequest& request);
+
+// The plots' horizontal grid: 21 values from yMin to yMax in twentieths, centred on the middle.
+constexpr int kPlotGridLines = 21;
+float plotGridValue(int j, float yMin, float yMax);
 
 // The legend occupies the bottom quarter of the view in five rows; the row under y, or -1.
 int plotLegendRowAt(float y, int height);

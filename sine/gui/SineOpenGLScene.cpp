@@ -1,12 +1,961 @@
 #include "sine/gui/SineOpenGLScene.h"
 
+#include "common/core/AnimationSpeed.h"
+#include "common/core/CFormat.h"
+#include "common/core/SafeFileWriter.h"
+#include "common/core/TextFileReader.h"
+#include "common/gui/FieldValidators.h"
 #include "common/gui/GlPlotFrame.h"
+#include "common/gui/ImageLookup.h"
+#include "common/gui/PlotOverlay.h"
+#include "common/gui/QtColor.h"
+#include "sine/engine/SineEngine.h"
+#include "sine/engine/SinePlotGeometry.h"
+#include "sine/gui/SineFocusWindow.h"
+#include "sine/gui/SineSelectionWindow.h"
+#include "sine/gui/SineStatusWindow.h"
 
-SineOpenGLScene::SineOpenGLScene(QObject* parent) : OpenGLPlotScene(parent) {}
+#include <GL/gl.h>
+#include <QCheckBox>
+#include <QGraphicsSceneMouseEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QSlider>
+#include <QTimer>
+#include <algorithm>
+#include <cmath>
+
+using quillon::cformat;
+
+namespace
+{
+
+constexpr float kGridDepth = 0.0f;
+constexpr float kMarkerDepth = 1.0f;
+constexpr float kCurveDepth = 2.0f;
+constexpr float kHoveredDepth = 3.0f;
+constexpr float kLibraryDepth = 4.0f;
+constexpr int kTrendWidth = 2;
+// How far (in view pixels) the cursor may be from a node for the node to count as under it.
+constexpr float kNodeHitRadius = 5.0f;
+constexpr int kMaxDegrees = 1000000;
+constexpr int kMaxTerms = 10000;
+
+QString qformat(const std::string& text)
+{
+    return QString::fromStdString(text);
+}
+
+const char* screenWord(int32_t code)
+{
+    switch (code) {
+    case SineOverflow:
+        return "Overflow";
+    case SineUnderflow:
+        return "Underflow";
+    default:
+        return "NAN";
+    }
+}
+
+// Writes a whole file; the reason it failed, or "".
+QString writeWhole(const QString& path, const std::string& contents)
+{
+    std::string error;
+    return quillon::writeFileAtomically(path.toStdString(), contents, error)
+               ? QString()
+               : QString::fromStdString(error);
+}
+
+void setGlColor(const quillon::ColorTriple& color)
+{
+    glColor3f(color.redF(), color.greenF(), color.blueF());
+}
+
+} // namespace
+
+SineOpenGLScene::SineOpenGLScene(const SinePanel& panel, QObject* parent)
+    : OpenGLPlotScene(parent), panel(panel), indexLabels(quillon::plotOverlayFont())
+{
+    colours = {{{0, 0, 0},
+                {255, 192, 203},
+                {255, 20, 147},
+                {199, 21, 133},
+                {139, 0, 0},
+                {255, 0, 0},
+                {255, 69, 0},
+                {255, 215, 0},
+                {128, 128, 0},
+                {0, 255, 0},
+                {0, 255, 255},
+                {0, 0, 128},
+                {106, 90, 205}}};
+    for (int slot : {kLibrary, 1, 4, 10, 12}) {
+        needed[slot] = true;
+    }
+    errorImage = quillon::loadImage(QStringLiteral("error.png"));
+    checkedImage = quillon::loadImage(QStringLiteral("c.png"));
+    uncheckedImage = quillon::loadImage(QStringLiteral("u.png"));
+    recompute();
+}
+
+void SineOpenGLScene::setColor(int slot, const quillon::ColorTriple& color)
+{
+    colours[slot] = color;
+    repaint();
+}
+
+// ---- inputs -------------------------------------------------------------------------------
+
+void SineOpenGLScene::setUpPanel()
+{
+    panel.iterations->setText(qformat(cformat("%d", N)));
+    panel.iterations->setValidator(quillon::integerFieldValidator(1, kMaxTerms, panel.iterations));
+    panel.x->setText(qformat(cformat("%d", X)));
+    panel.x->setValidator(quillon::integerFieldValidator(-kMaxDegrees, kMaxDegrees, panel.x));
+    const std::pair<QCheckBox*, bool> boxes[] = {
+        {panel.showBoundary, showBoundary}, {panel.showValues, showValues},
+        {panel.showXAxis, needXAxis},       {panel.showYAxis, needYAxis},
+        {panel.showXIndices, showXIndices}, {panel.showYIndices, showYIndices},
+        {panel.showLabels, showLabels},     {panel.errorComparison, errorComparison}};
+    for (const auto& [box, checked] : boxes) {
+        const QSignalBlocker blocker(box);
+        box->setChecked(checked);
+    }
+    const QSignalBlocker blocker(panel.timeSlider);
+    panel.timeSlider->setRange(0, N - 20 * window.step - 1);
+    refreshTimeLabels();
+    speedAdjust();
+}
+
+void SineOpenGLScene::recompute()
+{
+    computeSine(X, N, computed);
+    fitYRange();
+    refreshStatusWindow();
+}
+
+// A new computation starts the animation over: the window back at index 0 with its width,
+// nothing revealed, running.
+void SineOpenGLScene::restartAnimation()
+{
+    window.end -= window.start;
+    window.start = 0;
+    window.animationPosition = 0;
+    setPaused(false);
+    autoPaused = false;
+    panel.pause->setText(QStringLiteral("Pause"));
+    refreshFocusWindow();
+    repaint();
+}
+
+void SineOpenGLScene::refreshTimeSlider()
+{
+    const QSignalBlocker blocker(panel.timeSlider);
+    panel.timeSlider->setMaximum(N - 20 * window.step - 1);
+    panel.timeEnd->setText(qformat(cformat("%d", N - 20 * window.step - 1)));
+}
+
+void SineOpenGLScene::updateMaxItera()
+{
+    N = panel.iterations->text().toInt();
+    recompute();
+    refreshTimeSlider();
+    restartAnimation();
+}
+
+void SineOpenGLScene::updateX()
+{
+    X = panel.x->text().toInt();
+    recompute();
+    restartAnimation();
+}
+
+void SineOpenGLScene::calculate()
+{
+    X = panel.x->text().toInt();
+    N = panel.iterations->text().toInt();
+    recompute();
+    refreshTimeSlider();
+    restartAnimation();
+}
+
+// ---- the Y range --------------------------------------------------------------------------
+
+void SineOpenGLScene::updateYmin()
+{
+    if (focusWindow != nullptr) {
+        yLow = focusWindow->yMinText().toFloat();
+    }
+    repaint();
+}
+
+void SineOpenGLScene::updateYmax()
+{
+    if (focusWindow != nullptr) {
+        yHigh = focusWindow->yMaxText().toFloat();
+    }
+    repaint();
+}
+
+void SineOpenGLScene::Yapply()
+{
+    if (focusWindow != nullptr) {
+        yLow = focusWindow->yMinText().toFloat();
+        yHigh = focusWindow->yMaxText().toFloat();
+    }
+    repaint();
+}
+
+SinePlotContent SineOpenGLScene::plotContent() const
+{
+    SinePlotContent content{&computed, {}, errorComparison};
+    for (int k = 0; k < kSineApproachCount; ++k) {
+        content.enabled[k] = needed[k + 1];
+    }
+    return content;
+}
+
+void SineOpenGLScene::fitYRange()
+{
+    if (const auto range = sineFitYRange(plotContent(), window, N, xLeft, xRight)) {
+        yLow = range->first;
+        yHigh = range->second;
+    }
+    repaint();
+}
+
+// ---- selections and view options ----------------------------------------------------------
+
+void SineOpenGLScene::setNeeded(int slot, bool need)
+{
+    needed[slot] = need;
+    repaint();
+}
+
+void SineOpenGLScene::needFunc1(bool need)
+{
+    setNeeded(1, need);
+}
+void SineOpenGLScene::needFunc2(bool need)
+{
+    setNeeded(2, need);
+}
+void SineOpenGLScene::needFunc3(bool need)
+{
+    setNeeded(3, need);
+}
+void SineOpenGLScene::needFunc4(bool need)
+{
+    setNeeded(4, need);
+}
+void SineOpenGLScene::needFunc5(bool need)
+{
+    setNeeded(5, need);
+}
+void SineOpenGLScene::needFunc6(bool need)
+{
+    setNeeded(6, need);
+}
+void SineOpenGLScene::needFunc7(bool need)
+{
+    setNeeded(7, need);
+}
+void SineOpenGLScene::needFunc8(bool need)
+{
+    setNeeded(8, need);
+}
+void SineOpenGLScene::needFunc9(bool need)
+{
+    setNeeded(9, need);
+}
+void SineOpenGLScene::needFunc10(bool need)
+{
+    setNeeded(10, need);
+}
+void SineOpenGLScene::needFunc11(bool need)
+{
+    setNeeded(11, need);
+}
+void SineOpenGLScene::needFunc12(bool need)
+{
+    setNeeded(12, need);
+}
+
+void SineOpenGLScene::needBaseSin(bool need)
+{
+    setNeeded(kLibrary, need);
+}
+
+void SineOpenGLScene::needErrorComparison(bool need)
+{
+    errorComparison = need;
+    fitYRange();
+    refreshFocusWindow();
+    repaint();
+}
+
+// After choosing all or none, the panel's "Error comparison" and "Y labels" boxes are set from
+// the scene again; the other boxes are left as they are.
+void SineOpenGLScene::chooseAll(bool need)
+{
+    needed.fill(need);
+    refreshSelectionWindow();
+    for (const auto& [box, checked] : {std::pair{panel.errorComparison, errorComparison},
+                                       std::pair{panel.showYIndices, showYIndices}}) {
+        const QSignalBlocker blocker(box);
+        box->setChecked(checked);
+    }
+    repaint();
+}
+
+void SineOpenGLScene::allUnchoose()
+{
+    chooseAll(false);
+}
+
+void SineOpenGLScene::allchoose()
+{
+    chooseAll(true);
+}
+
+void SineOpenGLScene::needFinalError(bool need)
+{
+    finalError = need;
+    repaint();
+}
+
+void SineOpenGLScene::setShowBoundary(bool show)
+{
+    showBoundary = show;
+    repaint();
+}
+
+void SineOpenGLScene::setShowValues(bool show)
+{
+    showValues = show;
+    repaint();
+}
+
+void SineOpenGLScene::setNeedXAxis(bool need)
+{
+    needXAxis = need;
+    repaint();
+}
+
+void SineOpenGLScene::setNeedYAxis(bool need)
+{
+    needYAxis = need;
+    repaint();
+}
+
+void SineOpenGLScene::need2ShowXIndices(bool show)
+{
+    showXIndices = show;
+    repaint();
+}
+
+void SineOpenGLScene::need2ShowYIndices(bool show)
+{
+    showYIndices = show;
+    repaint();
+}
+
+void SineOpenGLScene::need2ShowLabels(bool show)
+{
+    showLabels = show;
+    repaint();
+}
+
+// ---- the X window and the focus window's ranges -------------------------------------------
+
+bool SineOpenGLScene::isFixingNodeCount() const
+{
+    return focusWindow != nullptr && focusWindow->fixesNodeCount();
+}
+
+void SineOpenGLScene::setStartpoint(int value)
+{
+    if (quillon::plotMoveStart(window, value, N, isFixingNodeCount())) {
+        refreshFocusWindow();
+        repaint();
+    }
+}
+
+void SineOpenGLScene::setEndpoint(int value)
+{
+    if (quillon::plotMoveEnd(window, value, isFixingNodeCount())) {
+        refreshFocusWindow();
+        repaint();
+    }
+}
+
+void SineOpenGLScene::setStepsize(int value)
+{
+    // A step below 1 would make the displayed-index test divide by zero; the focus window's
+    // slider starts at 1, so only a programmatic call can ask for it.
+    window.step = std::max(value, 1);
+    refreshFocusWindow();
+    repaint();
+}
+
+void SineOpenGLScene::setLowerRange(int value)
+{
+    lowerRange = value;
+    refreshFocusWindow();
+    repaint();
+}
+
+void SineOpenGLScene::setUpperRange(int value)
+{
+    upperRange = value;
+    refreshFocusWindow();
+    repaint();
+}
+
+void SineOpenGLScene::setRangeStep(int value)
+{
+    rangeStep = value;
+    refreshFocusWindow();
+    repaint();
+}
+
+void SineOpenGLScene::resetXY()
+{
+    window.step = 1;
+    window.end -= window.start;
+    window.start = 0;
+    fitYRange();
+    refreshFocusWindow();
+    repaint();
+}
+
+// ---- the tool windows ---------------------------------------------------------------------
+
+void SineOpenGLScene::refreshFocusWindow()
+{
+    if (focusWindow != nullptr) {
+        focusWindow->refresh();
+    }
+}
+
+void SineOpenGLScene::refreshSelectionWindow()
+{
+    if (selectionWindow != nullptr) {
+        selectionWindow->synchronise();
+    }
+}
+
+void SineOpenGLScene::refreshStatusWindow()
+{
+    if (statusWindow != nullptr && statusWindow->isVisible()) {
+        statusWindow->refresh();
+    }
+}
+
+// ---- animation ----------------------------------------------------------------------------
+
+void SineOpenGLScene::accelerate()
+{
+    ++speed;
+    speedAdjust();
+}
+
+void SineOpenGLScene::decelerate()
+{
+    --speed;
+    speedAdjust();
+}
+
+void SineOpenGLScene::speedAdjust()
+{
+    quillon::applySpeedLevel(speed, quillon::kMinSpeedLevel, quillon::kMaxSpeedLevel,
+                             panel.accelerate, panel.decelerate, panel.timer);
+    repaint();
+}
+
+void SineOpenGLScene::pause()
+{
+    autoPaused = false;
+    setPaused(!isPaused());
+    panel.pause->setText(isPaused() ? QStringLiteral("Resume") : QStringLiteral("Pause"));
+}
+
+void SineOpenGLScene::refreshTimeLabels()
+{
+    panel.timeValue->setText(qformat(cformat("%d", window.start)));
+    panel.timeStart->setText(qformat(cformat("%d", 0)));
+    panel.timeEnd->setText(qformat(cformat("%d", N - 20 * window.step - 1)));
+}
+
+void SineOpenGLScene::runningMan()
+{
+    if (!isPaused()) {
+        advanceOneStep();
+        fitYRange();
+    }
+    blink = !blink;
+    repaint();
+}
+
+void SineOpenGLScene::advanceOneStep()
+{
+    const int newEnd = window.end + window.step;
+    if (newEnd >= N) {
+        return;
+    }
+    if (window.slideInDone()) {
+        window.start += window.step;
+        window.end = newEnd;
+    } else {
+        ++window.animationPosition;
+    }
+    refreshFocusWindow();
+    refreshTimeLabels();
+    pauseAtAnError();
+}
+
+// The animation stops by itself where a selected series has just stopped.
+void SineOpenGLScene::pauseAtAnError()
+{
+    if (sineStoppedBeforeCurrent(plotContent(), window, N, xLeft, xRight)) {
+        setPaused(true);
+        autoPaused = true;
+        panel.pause->setText(QStringLiteral("Resume"));
+    }
+}
+
+void SineOpenGLScene::setTimeStartpoint(int value)
+{
+    window.animationPosition = 20;
+    if (window.end - window.start + value > N - 1) {
+        return;
+    }
+    if (isFixingNodeCount()) {
+        window.end += value - window.start;
+    }
+    window.start = value;
+    refreshFocusWindow();
+    refreshTimeLabels();
+    repaint();
+}
+
+// ---- geometry -----------------------------------------------------------------------------
+
+float SineOpenGLScene::nodeX(int i) const
+{
+    return quillon::plotNodeX(window, i, xLeft, xRight);
+}
+
+float SineOpenGLScene::nodePixelX(int i) const
+{
+    return float(viewWidth) * (nodeX(i) - xLeft) / (xRight - xLeft);
+}
+
+float SineOpenGLScene::valuePixelY(float value) const
+{
+    return float(viewHeight) * (yHigh - value) / (yHigh - yLow);
+}
+
+float SineOpenGLScene::gridValue(int j) const
+{
+    return quillon::plotGridValue(j, yLow, yHigh);
+}
+
+int SineOpenGLScene::indexUnderCursor() const
+{
+    int nearest = -1;
+    float distance = kNodeHitRadius;
+    for (int i = std::max(window.start, 0); i <= window.end && i < N; ++i) {
+        const float away = std::fabs(nodePixelX(i) - mouse.x());
+        if (window.displays(i) && away <= distance) {
+            nearest = i;
+            distance = away;
+        }
+    }
+    return nearest;
+}
+
+QRectF SineOpenGLScene::errorIconRect(int i) const
+{
+    return quillon::plotErrorIconRect(nodePixelX(i), viewWidth, viewHeight);
+}
+
+// ---- mouse --------------------------------------------------------------------------------
+
+void SineOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    QGraphicsScene::mousePressEvent(event);
+    if (event->isAccepted()) {
+        return;
+    }
+    if (event->button() == Qt::LeftButton) {
+        const float x = float(event->scenePos().x());
+        const float y = float(event->scenePos().y());
+        mouse.press(x, y);
+        if (showLabels) {
+            clickLegend(x, y);
+        }
+    }
+    event->accept();
+}
+
+void SineOpenGLScene::clickLegend(float x, float y)
+{
+    const SineLegendHit hit = sineLegendAt(x, y, viewWidth, viewHeight);
+    switch (hit.kind) {
+    case SineLegendHit::None:
+        return;
+    case SineLegendHit::Library:
+        needed[kLibrary] = !needed[kLibrary];
+        break;
+    case SineLegendHit::SelectAll:
+        needed.fill(true);
+        break;
+    case SineLegendHit::SelectNone:
+        needed.fill(false);
+        break;
+    case SineLegendHit::Approach:
+        needed[hit.approach + 1] = !needed[hit.approach + 1];
+        break;
+    }
+    refreshSelectionWindow();
+    repaint();
+}
+
+void SineOpenGLScene::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
+{
+    QGraphicsScene::mouseMoveEvent(event);
+    if (event->isAccepted()) {
+        return;
+    }
+    mouse.moveTo(std::round(float(event->scenePos().x())),
+                 std::round(float(event->scenePos().y())));
+    if (showLabels) {
+        const SineLegendHit hit = sineLegendAt(mouse.x(), mouse.y(), viewWidth, viewHeight);
+        hovered = hit.kind == SineLegendHit::Approach ? hit.approach + 1 : -1;
+    }
+    repaint();
+}
+
+void SineOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    QGraphicsScene::mouseReleaseEvent(event);
+    if (event->isAccepted()) {
+        return;
+    }
+    const quillon::PlotMouse::View view{window, yLow,   yHigh,     N,
+                                        xLeft,  xRight, viewWidth, viewHeight};
+    if (mouse.release(event->button(), float(event->scenePos().x()), float(event->scenePos().y()),
+                      view)) {
+        refreshFocusWindow();
+    }
+    event->accept();
+    repaint();
+}
+
+// ---- background ---------------------------------------------------------------------------
 
 void SineOpenGLScene::drawBackground(QPainter* painter, const QRectF&)
 {
     quillon::GlPlotFrame frame(painter);
     frame.clearToWhite();
-    frame.lookAtOrthographic(-1.5, 1.5, yLow, yHigh);
+    frame.lookAtOrthographic(xLeft, xRight, yLow, yHigh);
+    drawGrid();
+    drawErrorMarkers();
+    for (int slot = 1; slot <= kSineApproachCount; ++slot) {
+        if (needed[slot]) {
+            drawCurves(slot);
+        }
+    }
+    drawLibraryLine();
+}
+
+void SineOpenGLScene::drawGrid() const
+{
+    glPushAttrib(GL_ENABLE_BIT | GL_LINE_BIT);
+    glColor3f(gridColor[0], gridColor[1], gridColor[2]);
+    glLineWidth(1.0f);
+    glLineStipple(1, 0xAAAA);
+    glEnable(GL_LINE_STIPPLE);
+    glBegin(GL_LINES);
+    for (float y : {-1.0f, 1.0f, 0.0f}) {
+        glVertex3f(xLeft, y, kGridDepth);
+        glVertex3f(xRight, y, kGridDepth);
+    }
+    if (needYAxis) {
+        for (int j = 0; j < quillon::kPlotGridLines; ++j) {
+            glVertex3f(xLeft, gridValue(j), kGridDepth);
+            glVertex3f(xRight, gridValue(j), kGridDepth);
+        }
+    }
+    glEnd();
+    glPopAttrib();
+}
+
+// A vertical line where each selected series stopped.
+void SineOpenGLScene::drawErrorMarkers() const
+{
+    glLineWidth(1.0f);
+    glBegin(GL_LINES);
+    for (int k = 0; k < kSineApproachCount; ++k) {
+        if (!needed[k + 1]) {
+            continue;
+        }
+        const std::vector<int32_t>& codes = computed.series[k].codes;
+        for (size_t i = 0; i < codes.size(); ++i) {
+            if (codes[i] != SineOk) {
+                setGlColor(colours[k + 1]);
+                glVertex3f(nodeX(int(i)), 1.0f, kMarkerDepth);
+                glVertex3f(nodeX(int(i)), -1.0f, kMarkerDepth);
+            }
+        }
+    }
+    glEnd();
+}
+
+std::vector<int> SineOpenGLScene::plottedIndices(const SinePlotContent& content, int k) const
+{
+    std::vector<int> indices;
+    for (int i = std::max(window.start, 0); i <= window.end && i < N; ++i) {
+        if (!window.displays(i)) {
+            continue;
+        }
+        if (!content.plotted(k, i)) {
+            break;
+        }
+        indices.push_back(i);
+    }
+    return indices;
+}
+
+void SineOpenGLScene::drawCurves(int slot) const
+{
+    const int k = slot - 1;
+    const SinePlotContent content = plotContent();
+    const std::vector<int> indices = plottedIndices(content, k);
+    const float depth = slot == hovered ? kHoveredDepth : kCurveDepth;
+    const auto vertex = [&](int i) { glVertex3f(nodeX(i), *content.plotted(k, i), depth); };
+    setGlColor(colours[slot]);
+    if (showBoundary) {
+        drawTrendLines(content, k, indices, depth);
+    }
+    if (showValues) {
+        glLineWidth(float(kTrendWidth + 2));
+        glBegin(GL_LINES);
+        for (size_t j = 1; j < indices.size(); ++j) {
+            vertex(indices[j - 1]);
+            vertex(indices[j]);
+        }
+        glEnd();
+    }
+    if (needXAxis) {
+        glColor3f(gridColor[0], gridColor[1], gridColor[2]);
+        glLineWidth(1.0f);
+        glBegin(GL_LINES);
+        for (int i : indices) {
+            vertex(i);
+            glVertex3f(nodeX(i), 0.0f, depth);
+        }
+        glEnd();
+    }
+}
+
+// Two broken envelopes: one through the partial sums that follow a positive term, one through
+// those that follow a term <= 0, each joining consecutive members of its kind.
+void SineOpenGLScene::drawTrendLines(const SinePlotContent& content, int k,
+                                     const std::vector<int>& indices, float depth) const
+{
+    const std::vector<float>& terms = computed.series[k].terms;
+    glPushAttrib(GL_ENABLE_BIT | GL_LINE_BIT);
+    glLineWidth(float(kTrendWidth));
+    glLineStipple(1, 0x00FF);
+    glEnable(GL_LINE_STIPPLE);
+    glBegin(GL_LINES);
+    for (bool positive : {true, false}) {
+        int previous = -1;
+        for (int i : indices) {
+            if ((terms[i] > 0.0f) != positive) {
+                continue;
+            }
+            if (previous >= 0) {
+                glVertex3f(nodeX(previous), *content.plotted(k, previous), depth);
+                glVertex3f(nodeX(i), *content.plotted(k, i), depth);
+            }
+            previous = i;
+        }
+    }
+    glEnd();
+    glPopAttrib();
+}
+
+void SineOpenGLScene::drawLibraryLine() const
+{
+    if (!needed[kLibrary]) {
+        return;
+    }
+    const float level = errorComparison ? 0.0f : computed.librarySine;
+    setGlColor(colours[kLibrary]);
+    glLineWidth(1.0f);
+    glBegin(GL_LINES);
+    glVertex3f(xLeft, level, kLibraryDepth);
+    glVertex3f(xRight, level, kLibraryDepth);
+    glEnd();
+}
+
+// ---- foreground ---------------------------------------------------------------------------
+
+void SineOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
+{
+    viewWidth = int(rect.width());
+    viewHeight = int(rect.height());
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, false);
+    painter->setFont(quillon::plotOverlayFont());
+    drawErrorIcons(painter);
+    if (showXIndices) {
+        drawXIndices(painter);
+    }
+    if (showYIndices) {
+        quillon::drawPlotValueLabels(painter, yLow, yHigh, viewHeight);
+    }
+    drawErrorList(painter);
+    mouse.drawRubberBand(painter);
+    if (showLabels) {
+        drawLegend(painter);
+    }
+    drawLargestError(painter);
+    painter->restore();
+}
+
+// The icon flashes with the ticks, and only once the window has slid in.
+void SineOpenGLScene::drawErrorIcons(QPainter* painter) const
+{
+    if (blink || !window.slideInDone()) {
+        return;
+    }
+    for (int k = 0; k < kSineApproachCount; ++k) {
+        const SineSeries& series = computed.series[k];
+        if (needed[k + 1] && series.codes.size() > series.terms.size()) {
+            painter->drawImage(errorIconRect(int(series.terms.size())), errorImage);
+        }
+    }
+}
+
+void SineOpenGLScene::drawXIndices(QPainter* painter) const
+{
+    painter->setPen(Qt::darkBlue);
+    for (int i = std::max(window.start, 0); i <= window.end && i < N; ++i) {
+        if (window.displays(i)) {
+            const float x = nodePixelX(i) - float(indexLabels.width(i)) / 2.0f;
+            painter->drawStaticText(QPointF(x, 2.0), indexLabels.staticText(i));
+        }
+    }
+}
+
+// Under the cursor's index, one red line per selected series that stopped there.
+void SineOpenGLScene::drawErrorList(QPainter* painter) const
+{
+    const int index = indexUnderCursor();
+    if (index < 0) {
+        return;
+    }
+    const int lineHeight = QFontMetrics(quillon::plotOverlayFont()).height();
+    painter->setPen(QColor(255, 0, 0));
+    float y = mouse.y();
+    for (int k = 0; k < kSineApproachCount; ++k) {
+        const std::vector<int32_t>& codes = computed.series[k].codes;
+        if (!needed[k + 1] || size_t(index) >= codes.size() || codes[index] == SineOk) {
+            continue;
+        }
+        const std::string name = std::string(sineApproaches()[k].longName) + " ";
+        const QString text =
+            qformat(cformat("%s gets an error: %s\n", name.c_str(), screenWord(codes[index])));
+        y += float(lineHeight);
+        painter->drawText(QPointF(mouse.x(), y), text.trimmed());
+    }
+}
+
+// Three columns and five rows in the bottom quarter: the library, "Select all" and "Select
+// none", then the twelve approaches three to a row, each with its check mark and colour.
+void SineOpenGLScene::drawLegend(QPainter* painter) const
+{
+    const int top = int(std::floor(0.75 * viewHeight));
+    const int rowHeight = int(std::floor(0.25 * viewHeight)) / 5;
+    const int columnWidth = viewWidth / 3;
+    const int side = std::max(std::min(rowHeight - 4, 16), 1);
+    painter->setPen(Qt::black);
+    painter->drawLine(0, top, viewWidth, top);
+    const auto entry = [&](int row, int column, const QString& text, int slot) {
+        const int left = column * columnWidth + 4;
+        const int squareTop = top + row * rowHeight + (rowHeight - side) / 2;
+        int textLeft = left;
+        if (slot >= 0) {
+            painter->drawImage(QRect(left, squareTop, side, side),
+                               needed[slot] ? checkedImage : uncheckedImage);
+            painter->fillRect(QRect(left + side + 4, squareTop, side, side),
+                              quillon::toQColor(colours[slot]));
+            textLeft += 2 * side + 8;
+        }
+        painter->setPen(slot == hovered && slot > 0 ? Qt::red : Qt::black);
+        painter->drawText(
+            QRect(textLeft, top + row * rowHeight, columnWidth - textLeft + left, rowHeight),
+            Qt::AlignLeft | Qt::AlignVCenter, text);
+    };
+    entry(0, 0, QStringLiteral("C++ Math lib"), kLibrary);
+    entry(0, 1, QStringLiteral("Select all"), -1);
+    entry(0, 2, QStringLiteral("Select none"), -1);
+    for (int k = 0; k < kSineApproachCount; ++k) {
+        entry(1 + k / 3, k % 3, QString::fromLatin1(sineApproaches()[k].longName), k + 1);
+    }
+}
+
+void SineOpenGLScene::drawLargestError(QPainter* painter) const
+{
+    const std::optional<float> largest = sineLargestError(plotContent(), window, N, xLeft, xRight);
+    if (!largest) {
+        return;
+    }
+    const QString text =
+        qformat(
+            cformat("Maximal absolute error respect to C++ Math library: %2e\n", double(*largest)))
+            .trimmed();
+    painter->setPen(QPen());
+    const int textHeight = QFontMetrics(quillon::plotOverlayFont()).height();
+    const float boxTop = float(0.75 * viewHeight) - float(textHeight);
+    painter->drawText(QRectF(0, boxTop, viewWidth, textHeight), Qt::AlignLeft | Qt::AlignVCenter,
+                      text);
+}
+
+// ---- files --------------------------------------------------------------------------------
+
+QString SineOpenGLScene::saveColorFile(const QString& path) const
+{
+    return writeWhole(path, sineColorFileText(colours));
+}
+
+QString SineOpenGLScene::loadColorFile(const QString& path)
+{
+    std::string text;
+    std::string error;
+    if (!quillon::readTextFile(path.toStdString(), quillon::kMaxConfigurationFileBytes, text,
+                               error)) {
+        return QString::fromStdString(error);
+    }
+    readSineColorFile(text, colours);
+    refreshStatusWindow();
+    repaint();
+    return QString();
+}
+
+QString SineOpenGLScene::saveTextData(const QString& path) const
+{
+    return writeWhole(path, sineTextExport(computed));
+}
+
+QString SineOpenGLScene::saveCsvData(const QString& path) const
+{
+    return writeWhole(path, sineCsvExport(computed));
 }

@@ -1,21 +1,200 @@
 #pragma once
 
+#include "common/core/PlotXWindow.h"
+#include "common/gui/IndexLabels.h"
 #include "common/gui/OpenGLPlotScene.h"
+#include "common/gui/PlotMouse.h"
+#include "sine/engine/SineApproaches.h"
+#include "sine/engine/SineFiles.h"
+#include "sine/engine/SinePlotGeometry.h"
+#include "sine/gui/SinePanel.h"
 
-// The sine tab's plot: the Taylor partial sums of twelve approaches against the term index.
-// The background is drawn with OpenGL in a box that spans -1.5..1.5 horizontally and
-// yLow..yHigh vertically.
+#include <QImage>
+#include <QString>
+#include <array>
+#include <vector>
+
+class SineFocusWindow;
+class SineSelectionWindow;
+class SineStatusWindow;
+class QPainter;
+
+// The sine tab's model and picture: the angle and the number of terms, the twelve series the
+// engine computes from them, the colours, the display flags and the animated window of term
+// indices; the OpenGL background (grid, error markers, trend envelopes, partial-sum curves,
+// drop lines and the library line) and the painter foreground (error icons, index and value
+// labels, the error list, the rubber band, the legend and the largest-error line). The panel
+// and the tool windows change it only through its slots.
 class SineOpenGLScene : public quillon::OpenGLPlotScene
 {
     Q_OBJECT
 
 public:
-    explicit SineOpenGLScene(QObject* parent = nullptr);
+    // Approach k of the flags and colours is Func(k), 1..12; index 0 is the library sine.
+    static constexpr int kLibrary = 0;
+
+    SineOpenGLScene(const SinePanel& panel, QObject* parent = nullptr);
+
+    // Writes the inputs, their validators, the check boxes and the time slider into the panel.
+    void setUpPanel();
+    void setSelectionWindow(SineSelectionWindow* window) { selectionWindow = window; }
+    void setFocusWindow(SineFocusWindow* window) { focusWindow = window; }
+    void setStatusWindow(SineStatusWindow* window) { statusWindow = window; }
+
+    // State the tool windows, the exports and the tests read.
+    int getX() const { return X; }
+    int getN() const { return N; }
+    const SineResults& results() const { return computed; }
+    const SineColors& colors() const { return colours; }
+    void setColor(int slot, const quillon::ColorTriple& color);
+    // Slot 0 is the library line, 1..12 the approaches.
+    bool isNeeded(int slot) const { return needed[slot]; }
+    bool isComparingErrors() const { return errorComparison; }
+    bool showsYValueLabels() const { return showYIndices; }
+    float getYLow() const { return yLow; }
+    float getYHigh() const { return yHigh; }
+    const quillon::PlotXWindow& xWindow() const { return window; }
+    int getLowerRange() const { return lowerRange; }
+    int getUpperRange() const { return upperRange; }
+    int getRangeStep() const { return rangeStep; }
+    int speedLevel() const { return speed; }
+    bool isAutoPaused() const { return autoPaused; }
+    int hoveredApproach() const { return hovered; }
+    int zoomDepth() const { return mouse.zoomDepth(); }
+    // The square of the error icon of index i in view pixels.
+    QRectF errorIconRect(int i) const;
+
+    // The module's files; each returns why it failed (and then changed nothing), or "".
+    QString saveColorFile(const QString& path) const;
+    QString loadColorFile(const QString& path);
+    QString saveTextData(const QString& path) const;
+    QString saveCsvData(const QString& path) const;
+
+public slots:
+    void updateMaxItera();
+    void updateX();
+    void updateYmin();
+    void updateYmax();
+    void needFunc1(bool need);
+    void needFunc2(bool need);
+    void needFunc3(bool need);
+    void needFunc4(bool need);
+    void needFunc5(bool need);
+    void needFunc6(bool need);
+    void needFunc7(bool need);
+    void needFunc8(bool need);
+    void needFunc9(bool need);
+    void needFunc10(bool need);
+    void needFunc11(bool need);
+    void needFunc12(bool need);
+    void needBaseSin(bool need);
+    void needErrorComparison(bool need);
+    void allUnchoose();
+    void allchoose();
+    void needFinalError(bool need);
+    void setStartpoint(int value);
+    void setEndpoint(int value);
+    void setStepsize(int value);
+    void setLowerRange(int value);
+    void setUpperRange(int value);
+    void setRangeStep(int value);
+    void setShowBoundary(bool show);
+    void setShowValues(bool show);
+    void calculate();
+    void setNeedXAxis(bool need);
+    void setNeedYAxis(bool need);
+    void Yapply();
+    void resetXY();
+    void need2ShowXIndices(bool show);
+    void need2ShowYIndices(bool show);
+    void need2ShowLabels(bool show);
+    void accelerate();
+    void decelerate();
+    void speedAdjust();
+    void pause();
+    void runningMan();
+    void setTimeStartpoint(int value);
 
 protected:
     void drawBackground(QPainter* painter, const QRectF& rect) override;
+    void drawForeground(QPainter* painter, const QRectF& rect) override;
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
 
 private:
+    void recompute();
+    void restartAnimation();
+    void refreshTimeSlider();
+    void setNeeded(int slot, bool need);
+    void chooseAll(bool need);
+    void fitYRange();
+    void refreshFocusWindow();
+    void refreshSelectionWindow();
+    void refreshStatusWindow();
+    void refreshTimeLabels();
+    void advanceOneStep();
+    void pauseAtAnError();
+    bool isFixingNodeCount() const;
+    SinePlotContent plotContent() const;
+    float nodeX(int i) const;
+    float nodePixelX(int i) const;
+    float valuePixelY(float value) const;
+    float gridValue(int j) const;
+    int indexUnderCursor() const;
+    std::vector<int> plottedIndices(const SinePlotContent& content, int k) const;
+    void clickLegend(float x, float y);
+    void drawGrid() const;
+    void drawErrorMarkers() const;
+    void drawCurves(int slot) const;
+    void drawTrendLines(const SinePlotContent& content, int k, const std::vector<int>& indices,
+                        float depth) const;
+    void drawLibraryLine() const;
+    void drawErrorIcons(QPainter* painter) const;
+    void drawXIndices(QPainter* painter) const;
+    void drawErrorList(QPainter* painter) const;
+    void drawLegend(QPainter* painter) const;
+    void drawLargestError(QPainter* painter) const;
+
+    SinePanel panel;
+    SineSelectionWindow* selectionWindow = nullptr;
+    SineFocusWindow* focusWindow = nullptr;
+    SineStatusWindow* statusWindow = nullptr;
+
+    int X = 250;
+    int N = 300;
+    SineResults computed;
+    SineColors colours;
+    std::array<bool, kSineApproachCount + 1> needed{};
+    bool errorComparison = false;
+    bool finalError = false;
+    quillon::PlotXWindow window;
+    int lowerRange = -100;
+    int upperRange = 100;
+    int rangeStep = 10;
+    bool showBoundary = true;
+    bool showValues = true;
+    bool needXAxis = false;
+    bool needYAxis = false;
+    bool showXIndices = true;
+    bool showYIndices = false;
+    bool showLabels = true;
+    float xLeft = -1.5f;
+    float xRight = 1.5f;
     float yLow = -1.5f;
     float yHigh = 1.5f;
+    float gridColor[3] = {0.25f, 0.25f, 0.25f};
+    int hovered = -1;
+
+    bool autoPaused = false;
+    bool blink = false;
+    int speed = 0;
+
+    int viewWidth = 0;
+    int viewHeight = 0;
+    quillon::PlotMouse mouse;
+    QImage errorImage;
+    QImage checkedImage;
+    QImage uncheckedImage;
+    mutable quillon::IndexLabels indexLabels;
 };

@@ -33,29 +33,6 @@ std::string fileContents(const QString& path)
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string("<none>");
 }
 
-// Whether the image holds a pixel of exactly this colour (the curves are drawn without
-// smoothing, so their pixels have their exact colour).
-// Clicks a check box or radio button on its indicator, where a person clicks it (a click far
-// right of a wide button's text does nothing).
-void clickIndicator(QAbstractButton* button)
-{
-    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(10, button->height() / 2));
-}
-
-bool hasColor(const QImage& image, const QColor& color, int fromX = 0, int toX = -1)
-{
-    const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
-    const int end = toX < 0 ? rgb.width() : std::min(toX, rgb.width());
-    for (int y = 0; y < rgb.height(); ++y) {
-        for (int x = std::max(fromX, 0); x < end; ++x) {
-            if (QColor(rgb.pixel(x, y)) == color) {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
 } // namespace
 
 class AssoTabTest : public QObject
@@ -726,20 +703,9 @@ AssoFocusWindow* AssoTabTest::popFocusWindow()
         popWindow("&Tools", "&Region focus ...", QStringLiteral("Region focus")));
 }
 
-// What the scene's foreground pass writes, read from a painter instead of from pixels.
 QList<PaintedText> AssoTabTest::paintedTexts() const
 {
-    struct Foreground : AssoOpenGLScene {
-        static void draw(AssoOpenGLScene* scene, QPainter* painter, const QRectF& rect)
-        {
-            (scene->*(&Foreground::drawForeground))(painter, rect);
-        }
-    };
-    PaintedTextRecorder recorder(view->size());
-    QPainter painter(&recorder);
-    Foreground::draw(scene, &painter, QRectF(QPointF(0, 0), view->size()));
-    painter.end();
-    return recorder.texts();
+    return foregroundTexts(scene, view->size());
 }
 
 void AssoTabTest::expectFocusShowsTheWindow(AssoFocusWindow* focus)

@@ -1,11 +1,16 @@
 #include "tests/gui/GuiTestSupport.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QColor>
+#include <QImage>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 QAction* menuBarAction(QMainWindow& window, const QString& menuTitle, const QString& actionText)
 {
@@ -61,4 +66,23 @@ void answerNextModalDialog(std::function<void(QWidget*)> answer)
         });
     });
     poll->start();
+}
+
+bool hasColor(const QImage& image, const QColor& color, int fromX, int toX)
+{
+    const QImage rgb = image.convertToFormat(QImage::Format_RGB32);
+    const int end = toX < 0 ? rgb.width() : std::min(toX, rgb.width());
+    for (int y = 0; y < rgb.height(); ++y) {
+        for (int x = std::max(fromX, 0); x < end; ++x) {
+            if (QColor(rgb.pixel(x, y)) == color) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+void clickIndicator(QAbstractButton* button)
+{
+    QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(10, button->height() / 2));
 }

@@ -3,7 +3,10 @@
 #include <QString>
 #include <functional>
 
+class QAbstractButton;
 class QAction;
+class QColor;
+class QImage;
 class QMainWindow;
 class QWidget;
 
@@ -20,3 +23,12 @@ QWidget* popMenuWindow(QMainWindow& window, const QString& menuTitle, const QStr
 // should close it; a dialog still open afterwards is closed. Call before the action that
 // opens the dialog.
 void answerNextModalDialog(std::function<void(QWidget*)> answer);
+
+// Whether the image holds a pixel of exactly this colour between columns fromX and toX (toX
+// -1: the right edge). Plots are drawn without smoothing, so a curve's pixels have its exact
+// colour.
+bool hasColor(const QImage& image, const QColor& color, int fromX = 0, int toX = -1);
+
+// Clicks a check box or radio button on its indicator, where a person clicks it (a click far
+// right of a wide button's text does nothing).
+void clickIndicator(QAbstractButton* button);

@@ -271,20 +271,31 @@ void PageLayoutTest::plotPagesFillTheirPage()
     }
 }
 
-// The associative law's focus, selection and colour-map windows at the size they open with.
+// The tool windows of the associative-law and sine tabs at the size they open with. Each is
+// closed after its check, since the two tabs' windows share their titles.
 void PageLayoutTest::toolWindowTitlesClearTheirContents()
 {
-    tabs()->setCurrentIndex(AssoTab);
-    const char* const windows[][2] = {{"&Region focus ...", "Region focus"},
-                                      {"&Selections ...", "Selections"},
-                                      {"&Color map ...", "Color map"}};
+    const struct {
+        TabIndex tab;
+        const char* entry;
+        const char* title;
+    } windows[] = {{AssoTab, "&Region focus ...", "Region focus"},
+                   {AssoTab, "&Selections ...", "Selections"},
+                   {AssoTab, "&Color map ...", "Color map"},
+                   {SineTab, "&Region focus ...", "Region focus"},
+                   {SineTab, "&Selections ...", "Selections"},
+                   {SineTab, "&Status ...", "Status"},
+                   {SineTab, "&Color map ...", "Color map"}};
     for (const auto& entry : windows) {
-        QWidget* tool = popMenuWindow(*window, QStringLiteral("&Tools"),
-                                      QString::fromLatin1(entry[0]), QString::fromLatin1(entry[1]));
-        QVERIFY2(tool != nullptr, entry[1]);
+        tabs()->setCurrentIndex(entry.tab);
+        QWidget* tool =
+            popMenuWindow(*window, QStringLiteral("&Tools"), QString::fromLatin1(entry.entry),
+                          QString::fromLatin1(entry.title));
+        QVERIFY2(tool != nullptr, entry.title);
         QVERIFY(QTest::qWaitForWindowExposed(tool));
-        QVERIFY2(!tool->findChildren<QGroupBox*>().isEmpty(), entry[1]);
-        expectNoProblems(tool, QString::fromLatin1(entry[1]));
+        QVERIFY2(!tool->findChildren<QGroupBox*>().isEmpty(), entry.title);
+        expectNoProblems(tool, QString::fromLatin1(entry.title));
+        tool->close();
     }
 }
 

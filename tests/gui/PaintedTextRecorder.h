@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QList>
 #include <QPaintDevice>
+#include <QPainter>
 #include <QPointF>
 #include <QSize>
 #include <QString>
@@ -37,3 +38,21 @@ private:
     QSize size;
     std::unique_ptr<Engine> engine;
 };
+
+// The texts a plot scene's foreground pass paints in a view of the given size, read from a
+// recorder instead of from pixels. The pass is protected in the scene; a class derived from it
+// names the member so that it can be called on the scene itself.
+template <typename Scene> QList<PaintedText> foregroundTexts(Scene* scene, QSize size)
+{
+    struct Foreground : Scene {
+        static void draw(Scene* target, QPainter* painter, const QRectF& rect)
+        {
+            (target->*(&Foreground::drawForeground))(painter, rect);
+        }
+    };
+    PaintedTextRecorder recorder(size);
+    QPainter painter(&recorder);
+    Foreground::draw(scene, &painter, QRectF(QPointF(0, 0), size));
+    painter.end();
+    return recorder.texts();
+}

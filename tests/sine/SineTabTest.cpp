@@ -1,0 +1,476 @@
+#include "app/GraphicsView.h"
+#include "app/MainWindow.h"
+#include "sine/engine/SineApproaches.h"
+#include "sine/gui/SineOpenGLScene.h"
+#include "tests/gui/GuiTestSupport.h"
+#include "tests/gui/PaintedTextRecorder.h"
+#include "tests/sine/SineGolden.h"
+
+#include <QCheckBox>
+#include <QIntValidator>
+#include <QLabel>
+#include <QLineEdit>
+#include <QOpenGLWidget>
+#include <QPushButton>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+#include <QTimer>
+#include <QtTest>
+
+namespace
+{
+
+std::string fileContents(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string("<none>");
+}
+
+QColor colorOf(const quillon::ColorTriple& color)
+{
+    return QColor(color.red, color.green, color.blue);
+}
+
+} // namespace
+
+class SineTabTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void panelStartsWithTheDefaults();
+    void typingXAndEnterRecomputesAndRestarts();
+    void calculateReadsXThenN();
+    void fieldsRefuseWhatTheyCannotHold();
+    void curvesAppearInTheirColours();
+    void selectNoneLeavesTheGridAndTheLibraryLine();
+    void legendClickTogglesAnApproach();
+    void errorListNamesTheStoppedSeries();
+    void yLabelsAndLargestErrorLine();
+    void speedLevelsSetTheTimerAndButtons();
+    void pauseTogglesItsText();
+    void animationPausesItselfWhereASeriesStops();
+    void dragZoomsAndRightClickUndoes();
+    void clickWithoutMovementDoesNotZoom();
+    void filesThroughTheDialogs();
+    void toolWindowsAreInstalled();
+
+private:
+    template <typename T> T* child(const char* name) const
+    {
+        return window->findChild<T*>(QString::fromLatin1(name));
+    }
+    void typeAndEnter(const char* field, const QString& text);
+    QImage grabPlot();
+    QImage plotArea();
+    QList<PaintedText> paintedTexts() const;
+    void tickUntil(const std::function<bool()>& done);
+    void saveOrOpen(const char* entry, const QString& path);
+    void showOnly(int slot);
+
+    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<QTemporaryDir> folder;
+    SineOpenGLScene* scene = nullptr;
+    GraphicsView* view = nullptr;
+};
+
+void SineTabTest::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    window = std::make_unique<MainWindow>();
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    child<QTabWidget>("tabWidget")->setCurrentIndex(3);
+    view = child<QWidget>("sine_VisWindow")->findChild<GraphicsView*>();
+    scene = qobject_cast<SineOpenGLScene*>(view->scene());
+    QVERIFY(scene != nullptr);
+    QVERIFY(QTest::qWaitForWindowExposed(view));
+    QTRY_VERIFY(view->scene()->sceneRect().width() > 100);
+    // The tests tick the animation themselves; leaving the first tab paused this one.
+    child<QTimer>("sine_timer")->stop();
+    scene->setPaused(false);
+}
+
+void SineTabTest::cleanup()
+{
+    window.reset();
+    folder.reset();
+}
+
+void SineTabTest::typeAndEnter(const char* field, const QString& text)
+{
+    auto* edit = child<QLineEdit>(field);
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    QTest::keyClicks(edit, text);
+    QTest::keyClick(edit, Qt::Key_Return);
+}
+
+QImage SineTabTest::grabPlot()
+{
+    QApplication::processEvents();
+    return qobject_cast<QOpenGLWidget*>(view->viewport())->grabFramebuffer();
+}
+
+// The plot above the legend (which holds every colour whether drawn or not), without the
+// index labels.
+QImage SineTabTest::plotArea()
+{
+    // The index labels are dark blue, Func11's colour.
+    child<QCheckBox>("sine_showXIndices")->setChecked(false);
+    return grabPlot().copy(0, 0, view->width(), int(0.75 * view->height()) - 1);
+}
+
+QList<PaintedText> SineTabTest::paintedTexts() const
+{
+    return foregroundTexts(scene, view->size());
+}
+
+// Ticks as the timer gives them, resuming as a person would whenever the animation paused
+// itself where a series stopped.
+void SineTabTest::tickUntil(const std::function<bool()>& done)
+{
+    for (int tick = 0; tick < 1000 && !done(); ++tick) {
+        if (scene->isAutoPaused()) {
+            child<QPushButton>("sine_pause")->click();
+        }
+        scene->runningMan();
+    }
+    QVERIFY(done());
+}
+
+void SineTabTest::showOnly(int slot)
+{
+    const std::array<void (SineOpenGLScene::*)(bool), kSineApproachCount> needFunc = {
+        &SineOpenGLScene::needFunc1,  &SineOpenGLScene::needFunc2,  &SineOpenGLScene::needFunc3,
+        &SineOpenGLScene::needFunc4,  &SineOpenGLScene::needFunc5,  &SineOpenGLScene::needFunc6,
+        &SineOpenGLScene::needFunc7,  &SineOpenGLScene::needFunc8,  &SineOpenGLScene::needFunc9,
+        &SineOpenGLScene::needFunc10, &SineOpenGLScene::needFunc11, &SineOpenGLScene::needFunc12};
+    scene->allUnchoose();
+    (scene->*needFunc[slot - 1])(true);
+}
+
+void SineTabTest::saveOrOpen(const char* entry, const QString& path)
+{
+    answerNextModalDialog([path](QWidget* dialog) {
+        auto* nameEdit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        QVERIFY(nameEdit != nullptr);
+        nameEdit->setText(path);
+        QTest::keyClick(nameEdit, Qt::Key_Return);
+    });
+    QAction* action = menuBarAction(*window, "&File", entry);
+    QVERIFY(action != nullptr && action->isEnabled());
+    action->trigger();
+}
+
+void SineTabTest::panelStartsWithTheDefaults()
+{
+    QCOMPARE(child<QLineEdit>("sine_iteration_input")->text(), QStringLiteral("300"));
+    QCOMPARE(child<QLineEdit>("sine_X_input")->text(), QStringLiteral("250"));
+    QCOMPARE(child<QLabel>("sine_iteration_label")->text(), QStringLiteral("Maximum iterations:"));
+    QCOMPARE(child<QLabel>("sine_X_label")->text(), QStringLiteral("X for sin(x) in degree:"));
+    QCOMPARE(child<QPushButton>("sine_pause")->text(), QStringLiteral("Start"));
+    QCOMPARE(child<QLabel>("sine_time_end_l")->text(), QStringLiteral("279"));
+    QCOMPARE(child<QSlider>("sine_time_slider")->maximum(), 279);
+    const std::pair<const char*, bool> boxes[] = {
+        {"sine_showboundary", true}, {"sine_showvalues", true},
+        {"sine_showXAxis", false},   {"sine_showYAxis", false},
+        {"sine_showXIndices", true}, {"sine_showYIndices", false},
+        {"sine_showLabels", true},   {"sine_needErrorComparison", false}};
+    for (const auto& [name, checked] : boxes) {
+        QCOMPARE(child<QCheckBox>(name)->isChecked(), checked);
+    }
+    const auto* angle =
+        qobject_cast<const QIntValidator*>(child<QLineEdit>("sine_X_input")->validator());
+    QVERIFY(angle != nullptr);
+    QCOMPARE(angle->bottom(), -1000000);
+    QCOMPARE(angle->top(), 1000000);
+    const auto* count =
+        qobject_cast<const QIntValidator*>(child<QLineEdit>("sine_iteration_input")->validator());
+    QVERIFY(count != nullptr);
+    QCOMPARE(count->bottom(), 1);
+    QCOMPARE(count->top(), 10000);
+    for (int slot = 0; slot <= kSineApproachCount; ++slot) {
+        QCOMPARE(scene->isNeeded(slot),
+                 slot == 0 || slot == 1 || slot == 4 || slot == 10 || slot == 12);
+    }
+    QCOMPARE(scene->results().series[0].terms.size(), size_t(17));
+    QCOMPARE(sineBits(scene->results().librarySine), 0xBF708FB0u);
+}
+
+void SineTabTest::typingXAndEnterRecomputesAndRestarts()
+{
+    tickUntil([this] { return scene->xWindow().start > 3; });
+    typeAndEnter("sine_X_input", QStringLiteral("30"));
+    QCOMPARE(scene->getX(), 30);
+    QCOMPARE(scene->xWindow().start, 0);
+    QCOMPARE(scene->xWindow().end, 20);
+    QCOMPARE(scene->xWindow().animationPosition, 0);
+    QCOMPARE(child<QPushButton>("sine_pause")->text(), QStringLiteral("Pause"));
+    // sin(30 degrees) with the short pi, in single precision.
+    QCOMPARE(sineBits(scene->results().librarySine), 0x3EFFFFFFu);
+    typeAndEnter("sine_iteration_input", QStringLiteral("40"));
+    QCOMPARE(scene->getN(), 40);
+    QCOMPARE(scene->results().series[3].terms.size(), size_t(40));
+    QCOMPARE(child<QLabel>("sine_time_end_l")->text(), QStringLiteral("19"));
+}
+
+void SineTabTest::calculateReadsXThenN()
+{
+    child<QLineEdit>("sine_X_input")->setText(QStringLiteral("-"));
+    child<QLineEdit>("sine_iteration_input")->setText(QStringLiteral("5"));
+    QTest::mouseClick(child<QPushButton>("sine_calculate"), Qt::LeftButton);
+    // "-" is no number: X is 0, and every partial sum is 0.
+    QCOMPARE(scene->getX(), 0);
+    QCOMPARE(scene->getN(), 5);
+    for (const SineSeries& series : scene->results().series) {
+        QCOMPARE(series.sums, std::vector<float>(5, 0.0f));
+    }
+}
+
+void SineTabTest::fieldsRefuseWhatTheyCannotHold()
+{
+    for (const char* name : {"sine_X_input", "sine_iteration_input"}) {
+        auto* edit = child<QLineEdit>(name);
+        edit->setFocus();
+        edit->selectAll();
+        QTest::keyClick(edit, Qt::Key_Backspace);
+        QTest::keyClicks(edit, QStringLiteral("1,0.5e3"));
+        // Neither group separators, decimals nor exponents can be typed.
+        QCOMPARE(edit->text(), QStringLiteral("1053"));
+    }
+    typeAndEnter("sine_X_input", QStringLiteral("123456789"));
+    QCOMPARE(child<QLineEdit>("sine_X_input")->text(), QStringLiteral("1234567"));
+    QCOMPARE(scene->getX(), 250);
+}
+
+void SineTabTest::curvesAppearInTheirColours()
+{
+    tickUntil([this] { return scene->xWindow().slideInDone(); });
+    // Each of the twelve, alone, is drawn in its colour and no other (equal curves would cover
+    // each other). Func1-3 and Func7-9 stop at index 17, within the window.
+    for (int slot = 1; slot <= kSineApproachCount; ++slot) {
+        showOnly(slot);
+        const QImage area = plotArea();
+        for (int other = 1; other <= kSineApproachCount; ++other) {
+            // Func5's pure red is also the red of the error icons.
+            if (other != 5 || slot == 5) {
+                QCOMPARE(hasColor(area, colorOf(scene->colors()[other])), other == slot);
+            }
+        }
+    }
+}
+
+void SineTabTest::selectNoneLeavesTheGridAndTheLibraryLine()
+{
+    tickUntil([this] { return scene->xWindow().slideInDone(); });
+    scene->allUnchoose();
+    scene->needBaseSin(true);
+    const QImage area = plotArea();
+    for (int slot = 1; slot <= kSineApproachCount; ++slot) {
+        QVERIFY2(!hasColor(area, colorOf(scene->colors()[slot])),
+                 qPrintable(QString::number(slot)));
+    }
+    // The library line is black.
+    QVERIFY(hasColor(area, QColor(0, 0, 0)));
+    scene->needBaseSin(false);
+    QVERIFY(!hasColor(plotArea(), QColor(0, 0, 0)));
+}
+
+void SineTabTest::legendClickTogglesAnApproach()
+{
+    // The legend: three columns from 0.75 of the height in five rows; Func2 is row 1, column 1.
+    const int rowHeight = int(0.25 * view->height()) / 5;
+    const QPoint func2(view->width() / 3 + 20, int(0.75 * view->height()) + rowHeight * 3 / 2);
+    QVERIFY(!scene->isNeeded(2));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, func2);
+    QVERIFY(scene->isNeeded(2));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, func2);
+    QVERIFY(!scene->isNeeded(2));
+    // Row 0, column 1: "Select all".
+    const QPoint selectAll(view->width() / 3 + 20, int(0.75 * view->height()) + rowHeight / 2);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, selectAll);
+    for (int slot = 0; slot <= kSineApproachCount; ++slot) {
+        QVERIFY(scene->isNeeded(slot));
+    }
+    QStringList names;
+    for (const PaintedText& painted : paintedTexts()) {
+        names << painted.text;
+    }
+    for (const char* expected : {"C++ Math lib", "Select all", "Select none"}) {
+        QVERIFY2(names.contains(QLatin1String(expected)), expected);
+    }
+    for (const SineApproach& approach : sineApproaches()) {
+        QVERIFY2(names.contains(QLatin1String(approach.longName)), approach.longName);
+    }
+}
+
+void SineTabTest::errorListNamesTheStoppedSeries()
+{
+    tickUntil([this] { return scene->xWindow().slideInDone(); });
+    scene->allchoose();
+    // Index 17 is where the six Direct evaluation series stopped: Original X with a negative
+    // last term (Underflow), Reduced X of 250 degrees with a factor -1 (Overflow).
+    const QPoint node(int(view->width() * (0.15f * 17 / 3.0f)), view->height() / 2);
+    QTest::mouseMove(view->viewport(), node);
+    QStringList lines;
+    for (const PaintedText& painted : paintedTexts()) {
+        if (painted.color == QColor(255, 0, 0)) {
+            lines << painted.text;
+        }
+    }
+    QCOMPARE(lines, (QStringList{"Original X + Direct eva + Naive  gets an error: Underflow",
+                                 "Original X + Direct eva + NegPos  gets an error: Underflow",
+                                 "Original X + Direct eva + Kahan  gets an error: Underflow",
+                                 "Reduced X + Direct eva + Naive  gets an error: Overflow",
+                                 "Reduced X + Direct eva + NegPos  gets an error: Overflow",
+                                 "Reduced X + Direct eva + Kahan  gets an error: Overflow"}));
+}
+
+void SineTabTest::yLabelsAndLargestErrorLine()
+{
+    tickUntil([this] { return scene->xWindow().slideInDone(); });
+    child<QCheckBox>("sine_showYIndices")->setChecked(true);
+    QStringList labels;
+    QStringList errorLines;
+    for (const PaintedText& painted : paintedTexts()) {
+        static const QRegularExpression twoDecimals(QStringLiteral("^-?\\d\\.\\d\\de[+-]\\d\\d$"));
+        if (twoDecimals.match(painted.text).hasMatch()) {
+            labels << painted.text;
+        }
+        if (painted.text.startsWith(QLatin1String("Maximal absolute error"))) {
+            errorLines << painted.text;
+        }
+    }
+    QCOMPARE(labels.size(), 21);
+    // At index 20 Func1 has stopped; Func4 is 2^-21 off, Func10 and Func12 less.
+    QCOMPARE(errorLines, QStringList{"Maximal absolute error respect to C++ Math library: "
+                                     "4.768372e-07"});
+}
+
+void SineTabTest::speedLevelsSetTheTimerAndButtons()
+{
+    auto* timer = child<QTimer>("sine_timer");
+    auto* faster = child<QPushButton>("sine_acceleration");
+    auto* slower = child<QPushButton>("sine_deceleration");
+    QCOMPARE(timer->interval(), 400);
+    slower->click();
+    QCOMPARE(timer->interval(), 400);
+    for (int i = 0; i < 6; ++i) {
+        faster->click();
+    }
+    QCOMPARE(scene->speedLevel(), 5);
+    QCOMPARE(timer->interval(), 80);
+    QVERIFY(!faster->isEnabled());
+    for (int i = 0; i < 10; ++i) {
+        slower->click();
+    }
+    QCOMPARE(timer->interval(), 2000);
+    QVERIFY(!slower->isEnabled());
+    QVERIFY(faster->isEnabled());
+}
+
+void SineTabTest::pauseTogglesItsText()
+{
+    auto* pause = child<QPushButton>("sine_pause");
+    pause->click();
+    QVERIFY(scene->isPaused());
+    QCOMPARE(pause->text(), QStringLiteral("Resume"));
+    pause->click();
+    QVERIFY(!scene->isPaused());
+    QCOMPARE(pause->text(), QStringLiteral("Pause"));
+}
+
+void SineTabTest::animationPausesItselfWhereASeriesStops()
+{
+    // Func1 stopped at index 17: with one node revealed per tick, the check finds it when 18
+    // nodes are in.
+    tickUntil([this] { return scene->isPaused(); });
+    QCOMPARE(scene->xWindow().animationPosition, 18);
+    QVERIFY(scene->isAutoPaused());
+    QCOMPARE(child<QPushButton>("sine_pause")->text(), QStringLiteral("Resume"));
+    const int revealed = scene->xWindow().animationPosition;
+    scene->runningMan();
+    QCOMPARE(scene->xWindow().animationPosition, revealed);
+}
+
+void SineTabTest::dragZoomsAndRightClickUndoes()
+{
+    tickUntil([this] { return scene->xWindow().slideInDone(); });
+    const float yLow = scene->getYLow();
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {},
+                      QPoint(view->width() / 4, view->height() / 8));
+    QTest::mouseMove(view->viewport(), QPoint(view->width() * 3 / 4, view->height() / 2));
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {},
+                        QPoint(view->width() * 3 / 4, view->height() / 2));
+    QCOMPARE(scene->zoomDepth(), 2);
+    QVERIFY(scene->xWindow().start > 0);
+    QVERIFY(scene->xWindow().end < 20);
+    QTest::mouseClick(view->viewport(), Qt::RightButton, {}, QPoint(10, 10));
+    QCOMPARE(scene->zoomDepth(), 1);
+    QCOMPARE(scene->xWindow().start, 0);
+    QCOMPARE(scene->xWindow().end, 20);
+    QCOMPARE(scene->getYLow(), yLow);
+}
+
+void SineTabTest::clickWithoutMovementDoesNotZoom()
+{
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, QPoint(100, 100));
+    QCOMPARE(scene->zoomDepth(), 0);
+}
+
+void SineTabTest::filesThroughTheDialogs()
+{
+    const QString txt = folder->filePath(QStringLiteral("sine data.txt"));
+    const QString csv = folder->filePath(QStringLiteral("sine data.csv"));
+    saveOrOpen("&Save data to a txt file ...", txt);
+    saveOrOpen("&Save data to a CSV file ...", csv);
+    QCOMPARE(fileContents(txt), sineGolden("default.txt"));
+    QCOMPARE(fileContents(csv), sineGolden("default.csv"));
+    const QString conf = folder->filePath(QStringLiteral("colours.conf"));
+    scene->setColor(5, {1, 2, 3});
+    saveOrOpen("&Save to a configuration file ...", conf);
+    QCOMPARE(fileContents(conf).substr(0, 25), std::string("Sine Color R 0 G 0 B 0\nFu"));
+    const SineColors saved = scene->colors();
+    scene->setColor(5, {9, 9, 9});
+    scene->setColor(0, {9, 9, 9});
+    saveOrOpen("&Open a configuration file ...", conf);
+    QCOMPARE(scene->colors(), saved);
+}
+
+void SineTabTest::toolWindowsAreInstalled()
+{
+    const std::pair<const char*, const char*> windows[] = {{"&Region focus ...", "Region focus"},
+                                                           {"&Selections ...", "Selections"},
+                                                           {"&Status ...", "Status"}};
+    for (const auto& [entry, title] : windows) {
+        QWidget* shown = popMenuWindow(*window, QStringLiteral("&Tools"),
+                                       QString::fromLatin1(entry), QString::fromLatin1(title));
+        QVERIFY2(shown != nullptr, title);
+        shown->close();
+    }
+    const std::pair<const char*, const char*> helps[] = {{"&About ...", "sine-about.txt"},
+                                                         {"&Help ...", "sine-help.txt"}};
+    for (const auto& [entry, golden] : helps) {
+        QAction* action = menuBarAction(*window, "&Help", entry);
+        QVERIFY(action != nullptr && action->isEnabled());
+        action->trigger();
+        QTextBrowser* browser = nullptr;
+        for (QWidget* topLevel : QApplication::topLevelWidgets()) {
+            if (topLevel->isVisible() && topLevel->findChild<QTextBrowser*>() != nullptr) {
+                browser = topLevel->findChild<QTextBrowser*>();
+            }
+        }
+        QVERIFY(browser != nullptr);
+        QCOMPARE(browser->toPlainText().toStdString(), sineGolden(golden));
+        browser->window()->close();
+    }
+}
+
+QTEST_MAIN(SineTabTest)
+#include "SineTabTest.moc"
