@@ -69,3 +69,29 @@ TEST(SineFiles, ShortColourFileLeavesTheRestAlone)
     EXPECT_EQ(colors[2], (quillon::ColorTriple{9, 9, 9}));
     EXPECT_EQ(colors[12], (quillon::ColorTriple{9, 9, 9}));
 }
+
+namespace
+{
+
+struct ExportCase {
+    int degrees;
+    int count;
+    const char* golden;
+};
+
+} // namespace
+
+// Beyond the defaults: Term update overflowing without reduction (20000 degrees), sums that
+// overflow both NegPos accumulators and become inf and then NaN with code 0 (5200 degrees),
+// and a single term.
+TEST(SineFiles, ExportsOfOverflowingAndShortSeries)
+{
+    const ExportCase cases[] = {
+        {20000, 300, "x20000-n300"}, {5200, 300, "x5200-n300"}, {250, 1, "x250-n1"}};
+    for (const ExportCase& c : cases) {
+        SineResults results;
+        computeSine(c.degrees, c.count, results);
+        EXPECT_EQ(sineTextExport(results), sineGolden(std::string(c.golden) + ".txt")) << c.golden;
+        EXPECT_EQ(sineCsvExport(results), sineGolden(std::string(c.golden) + ".csv")) << c.golden;
+    }
+}
