@@ -5,16 +5,11 @@
 #include "assoc/engine/AssoRecurrence.h"
 #include "assoc/gui/AssoOpenGLScene.h"
 
+#include "bench/PlotTarget.h"
+
 #include <QApplication>
 #include <QLineEdit>
-#include <QOffscreenSurface>
-#include <QOpenGLContext>
-#include <QOpenGLFramebufferObject>
-#include <QOpenGLFunctions>
-#include <QOpenGLPaintDevice>
-#include <QPainter>
 #include <benchmark/benchmark.h>
-#include <memory>
 
 namespace
 {
@@ -30,48 +25,10 @@ void BM_ComputeSequences(benchmark::State& state)
 }
 BENCHMARK(BM_ComputeSequences)->Arg(300)->Arg(10000)->Unit(benchmark::kMicrosecond);
 
-// An OpenGL framebuffer of the plot view's size to paint the scene into, as the view does.
-class PlotTarget
-{
-public:
-    explicit PlotTarget(QSize size)
-    {
-        QSurfaceFormat format;
-        format.setDepthBufferSize(24);
-        format.setProfile(QSurfaceFormat::CompatibilityProfile);
-        context.setFormat(format);
-        context.create();
-        surface.setFormat(format);
-        surface.create();
-        context.makeCurrent(&surface);
-        framebuffer = std::make_unique<QOpenGLFramebufferObject>(
-            size, QOpenGLFramebufferObject::CombinedDepthStencil);
-        framebuffer->bind();
-        device = std::make_unique<QOpenGLPaintDevice>(size);
-    }
-
-    // Paints both passes of the scene and waits until OpenGL has finished them.
-    void paint(QGraphicsScene& scene)
-    {
-        QPainter painter(device.get());
-        scene.render(&painter);
-        painter.end();
-        context.functions()->glFinish();
-    }
-
-private:
-    QOpenGLContext context;
-    QOffscreenSurface surface;
-    std::unique_ptr<QOpenGLFramebufferObject> framebuffer;
-    std::unique_ptr<QOpenGLPaintDevice> device;
-};
-
-const QSize kViewSize(810, 770);
-
 AssoOpenGLScene* assoSceneOf(MainWindow& window)
 {
     auto* scene = window.findChild<AssoOpenGLScene*>();
-    scene->setSceneRect(QRectF(QPointF(0, 0), QSizeF(kViewSize)));
+    scene->setSceneRect(QRectF(QPointF(0, 0), QSizeF(kPlotViewSize)));
     return scene;
 }
 
@@ -79,7 +36,7 @@ void BM_PaintDefaultFrame(benchmark::State& state)
 {
     MainWindow window;
     AssoOpenGLScene* scene = assoSceneOf(window);
-    PlotTarget target(kViewSize);
+    PlotTarget target(kPlotViewSize);
     scene->setTimeStartpoint(0);
     for (auto _ : state) {
         target.paint(*scene);
@@ -101,7 +58,7 @@ void BM_PaintHeaviestFrame(benchmark::State& state)
     scene->need2ShowYIndices(true);
     scene->needErrorComparison(true);
     scene->setTimeStartpoint(0);
-    PlotTarget target(kViewSize);
+    PlotTarget target(kPlotViewSize);
     for (auto _ : state) {
         target.paint(*scene);
     }

@@ -1,0 +1,78 @@
+// The sine module's costs: the twelve approaches, and painting one frame of the plot (OpenGL
+// background and painter foreground) for the default view and for the heaviest view a user
+// can reach.
+#include "app/MainWindow.h"
+#include "bench/PlotTarget.h"
+#include "sine/engine/SineApproaches.h"
+#include "sine/gui/SineOpenGLScene.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <benchmark/benchmark.h>
+
+namespace
+{
+
+void BM_ComputeSine(benchmark::State& state)
+{
+    const int count = int(state.range(0));
+    SineResults results;
+    for (auto _ : state) {
+        computeSine(250, count, results);
+        benchmark::DoNotOptimize(results.series[11].sums.back());
+    }
+}
+BENCHMARK(BM_ComputeSine)->Arg(300)->Arg(10000)->Unit(benchmark::kMicrosecond);
+
+SineOpenGLScene* sineSceneOf(MainWindow& window)
+{
+    auto* scene = window.findChild<SineOpenGLScene*>();
+    scene->setSceneRect(QRectF(QPointF(0, 0), QSizeF(kPlotViewSize)));
+    return scene;
+}
+
+void BM_PaintDefaultFrame(benchmark::State& state)
+{
+    MainWindow window;
+    SineOpenGLScene* scene = sineSceneOf(window);
+    scene->setTimeStartpoint(0);
+    PlotTarget target(kPlotViewSize);
+    for (auto _ : state) {
+        target.paint(*scene);
+    }
+}
+BENCHMARK(BM_PaintDefaultFrame)->Unit(benchmark::kMillisecond);
+
+// N = 10000, window 0..9999 at step 1, all twelve approaches with trend lines, drop lines,
+// every label and the legend.
+void BM_PaintHeaviestFrame(benchmark::State& state)
+{
+    MainWindow window;
+    SineOpenGLScene* scene = sineSceneOf(window);
+    window.findChild<QLineEdit*>(QStringLiteral("sine_iteration_input"))
+        ->setText(QStringLiteral("10000"));
+    scene->updateMaxItera();
+    scene->setEndpoint(9999);
+    scene->setStepsize(1);
+    scene->allchoose();
+    scene->setNeedXAxis(true);
+    scene->setNeedYAxis(true);
+    scene->need2ShowYIndices(true);
+    scene->setTimeStartpoint(0);
+    PlotTarget target(kPlotViewSize);
+    for (auto _ : state) {
+        target.paint(*scene);
+    }
+}
+BENCHMARK(BM_PaintHeaviestFrame)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
