@@ -58,6 +58,19 @@ int main(int argc, char* argv[])
              QTest::qWait(4000);
              pause->click();
          }},
+        {"sine-tab.png",
+         [](MainWindow& w) {
+             showTab(w, SineTab);
+             // Started at top speed, the series slide in until the animation pauses itself
+             // where the direct evaluations stop.
+             auto* start = w.findChild<QPushButton*>(QStringLiteral("sine_pause"));
+             auto* faster = w.findChild<QPushButton*>(QStringLiteral("sine_acceleration"));
+             start->click();
+             for (int i = 0; i < 5; ++i) {
+                 faster->click();
+             }
+             QTest::qWait(3000);
+         }},
     };
     for (const Scene& scene : scenes) {
         if (!taker.take(window, QString::fromLatin1(scene.fileName), scene.arrange)) {
