@@ -1,5 +1,6 @@
 #include "app/GraphicsView.h"
 #include "app/MainWindow.h"
+#include "common/gui/PlotFocusWindow.h"
 #include "sine/engine/SineApproaches.h"
 #include "sine/gui/SineOpenGLScene.h"
 #include "tests/gui/GuiTestSupport.h"
@@ -58,6 +59,9 @@ private slots:
     void clickWithoutMovementDoesNotZoom();
     void filesThroughTheDialogs();
     void toolWindowsAreInstalled();
+    void timeSliderMovesTheWindow();
+    void selectNoneFromTheLegendAndTheLibraryEntry();
+    void libraryLineIsDrawnOnTop();
 
 private:
     template <typename T> T* child(const char* name) const
@@ -470,6 +474,63 @@ void SineTabTest::toolWindowsAreInstalled()
         QCOMPARE(browser->toPlainText().toStdString(), sineGolden(golden));
         browser->window()->close();
     }
+}
+
+void SineTabTest::timeSliderMovesTheWindow()
+{
+    // With the node count fixed the end moves along; without, only the start moves.
+    auto* focus = qobject_cast<quillon::PlotFocusWindow*>(
+        popMenuWindow(*window, QStringLiteral("&Tools"), QStringLiteral("&Region focus ..."),
+                      QStringLiteral("Region focus")));
+    QVERIFY(focus != nullptr);
+    focus->fixCheckBox()->setChecked(true);
+    child<QSlider>("sine_time_slider")->setValue(50);
+    QCOMPARE(scene->xWindow().start, 50);
+    QCOMPARE(scene->xWindow().end, 70);
+    QCOMPARE(scene->xWindow().animationPosition, 20);
+    QCOMPARE(child<QLabel>("sine_time_value_l")->text(), QStringLiteral("50"));
+    QCOMPARE(focus->startSlider()->value(), 50);
+    // A start that would put the end past N - 1 = 299 is refused.
+    scene->setTimeStartpoint(285);
+    QCOMPARE(scene->xWindow().start, 50);
+    focus->fixCheckBox()->setChecked(false);
+    child<QSlider>("sine_time_slider")->setValue(60);
+    QCOMPARE(scene->xWindow().start, 60);
+    QCOMPARE(scene->xWindow().end, 70);
+}
+
+void SineTabTest::selectNoneFromTheLegendAndTheLibraryEntry()
+{
+    const int rowHeight = int(0.25 * view->height()) / 5;
+    const int firstRow = int(0.75 * view->height()) + rowHeight / 2;
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {},
+                      QPoint(view->width() * 2 / 3 + 20, firstRow));
+    for (int slot = 0; slot <= kSineApproachCount; ++slot) {
+        QVERIFY(!scene->isNeeded(slot));
+    }
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, QPoint(20, firstRow));
+    QVERIFY(scene->isNeeded(SineOpenGLScene::kLibrary));
+    QVERIFY(!scene->isNeeded(1));
+}
+
+void SineTabTest::libraryLineIsDrawnOnTop()
+{
+    tickUntil([this] { return scene->xWindow().slideInDone(); });
+    // Func10's partial sums lie on the library value from index 10 on; its 4-pixel curve
+    // would hide the 1-pixel library line unless the line is drawn in front.
+    showOnly(10);
+    scene->needBaseSin(true);
+    const QImage frame = plotArea().convertToFormat(QImage::Format_RGB32);
+    const double level =
+        (scene->getYHigh() - scene->results().librarySine) / (scene->getYHigh() - scene->getYLow());
+    const int y = int(level * view->height());
+    int black = 0;
+    for (int x = int(view->width() * 0.6); x < int(view->width() * 0.95); ++x) {
+        for (int dy = -1; dy <= 1; ++dy) {
+            black += QColor(frame.pixel(x, y + dy)) == QColor(0, 0, 0) ? 1 : 0;
+        }
+    }
+    QVERIFY2(black > view->width() / 5, qPrintable(QString::number(black)));
 }
 
 QTEST_MAIN(SineTabTest)
