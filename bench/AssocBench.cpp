@@ -7,7 +7,6 @@
 
 #include "bench/PlotTarget.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <benchmark/benchmark.h>
 
@@ -66,12 +65,3 @@ void BM_PaintHeaviestFrame(benchmark::State& state)
 BENCHMARK(BM_PaintHeaviestFrame)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char* argv[])
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

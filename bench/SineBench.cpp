@@ -6,7 +6,6 @@
 #include "sine/engine/SineApproaches.h"
 #include "sine/gui/SineOpenGLScene.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <benchmark/benchmark.h>
 
@@ -67,12 +66,3 @@ void BM_PaintHeaviestFrame(benchmark::State& state)
 BENCHMARK(BM_PaintHeaviestFrame)->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char* argv[])
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    benchmark::Shutdown();
-    return 0;
-}

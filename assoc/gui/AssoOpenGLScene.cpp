@@ -4,9 +4,8 @@
 #include "assoc/gui/AssoSelectionWindow.h"
 #include "common/core/AnimationSpeed.h"
 #include "common/core/CFormat.h"
-#include "common/core/SafeFileWriter.h"
-#include "common/core/TextFileReader.h"
 #include "common/gui/FieldValidators.h"
+#include "common/gui/FileRoutines.h"
 #include "common/gui/GlPlotFrame.h"
 #include "common/gui/ImageLookup.h"
 #include "common/gui/PlotOverlay.h"
@@ -43,11 +42,6 @@ const char* screenWord(int32_t code)
     default:
         return "Underflow";
     }
-}
-
-QString fileError(const std::string& error)
-{
-    return QString::fromStdString(error);
 }
 
 } // namespace
@@ -810,19 +804,14 @@ void AssoOpenGLScene::drawSpreadReadout(QPainter* painter) const
 
 QString AssoOpenGLScene::saveColorFile(const QString& path) const
 {
-    std::string error;
-    return quillon::writeFileAtomically(path.toStdString(), assoColorFileText(colours), error)
-               ? QString()
-               : fileError(error);
+    return quillon::writeWholeFile(path, assoColorFileText(colours));
 }
 
 QString AssoOpenGLScene::loadColorFile(const QString& path)
 {
     std::string text;
-    std::string error;
-    if (!quillon::readTextFile(path.toStdString(), quillon::kMaxConfigurationFileBytes, text,
-                               error)) {
-        return fileError(error);
+    if (const QString failure = quillon::readConfigurationFile(path, text); !failure.isEmpty()) {
+        return failure;
     }
     readAssoColorFile(text, colours);
     repaint();
@@ -831,16 +820,10 @@ QString AssoOpenGLScene::loadColorFile(const QString& path)
 
 QString AssoOpenGLScene::saveTextData(const QString& path) const
 {
-    std::string error;
-    return quillon::writeFileAtomically(path.toStdString(), assoTextExport(results), error)
-               ? QString()
-               : fileError(error);
+    return quillon::writeWholeFile(path, assoTextExport(results));
 }
 
 QString AssoOpenGLScene::saveCsvData(const QString& path) const
 {
-    std::string error;
-    return quillon::writeFileAtomically(path.toStdString(), assoCsvExport(results, N), error)
-               ? QString()
-               : fileError(error);
+    return quillon::writeWholeFile(path, assoCsvExport(results, N));
 }

@@ -1,39 +1,34 @@
 #include "assoc/gui/AssoPanel.h"
 
+#include "common/gui/PageChild.h"
+
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSlider>
 
-namespace
-{
-
-template <typename Widget> Widget* panelChild(QWidget* page, const char* name)
-{
-    auto* widget = page->findChild<Widget*>(QString::fromLatin1(name));
-    if (widget == nullptr) {
-        qFatal("the associative-law page has no widget named %s", name);
-    }
-    return widget;
-}
-
-} // namespace
-
 AssoPanel AssoPanel::find(QWidget* page, QTimer* timer)
 {
     AssoPanel panel;
     panel.mainWindow = page->window();
-    panel.iterations = panelChild<QLineEdit>(page, "associativelaw_iteration_input");
-    panel.x0 = panelChild<QLineEdit>(page, "associativelaw_X_input");
-    panel.r = panelChild<QLineEdit>(page, "associativelaw_R_input");
-    panel.calculate = panelChild<QPushButton>(page, "associativelaw_calculate");
-    panel.accelerate = panelChild<QPushButton>(page, "associativelaw_acceleration");
-    panel.decelerate = panelChild<QPushButton>(page, "associativelaw_deceleration");
-    panel.pause = panelChild<QPushButton>(page, "associativelaw_pause");
-    panel.timeSlider = panelChild<QSlider>(page, "associativelaw_time_slider");
-    panel.timeStart = panelChild<QLabel>(page, "associativelaw_time_start_l");
-    panel.timeValue = panelChild<QLabel>(page, "associativelaw_time_value_l");
-    panel.timeEnd = panelChild<QLabel>(page, "associativelaw_time_end_l");
+    panel.iterations =
+        quillon::pageChild<QLineEdit>(page, QStringLiteral("associativelaw_iteration_input"));
+    panel.x0 = quillon::pageChild<QLineEdit>(page, QStringLiteral("associativelaw_X_input"));
+    panel.r = quillon::pageChild<QLineEdit>(page, QStringLiteral("associativelaw_R_input"));
+    panel.calculate =
+        quillon::pageChild<QPushButton>(page, QStringLiteral("associativelaw_calculate"));
+    panel.accelerate =
+        quillon::pageChild<QPushButton>(page, QStringLiteral("associativelaw_acceleration"));
+    panel.decelerate =
+        quillon::pageChild<QPushButton>(page, QStringLiteral("associativelaw_deceleration"));
+    panel.pause = quillon::pageChild<QPushButton>(page, QStringLiteral("associativelaw_pause"));
+    panel.timeSlider =
+        quillon::pageChild<QSlider>(page, QStringLiteral("associativelaw_time_slider"));
+    panel.timeStart =
+        quillon::pageChild<QLabel>(page, QStringLiteral("associativelaw_time_start_l"));
+    panel.timeValue =
+        quillon::pageChild<QLabel>(page, QStringLiteral("associativelaw_time_value_l"));
+    panel.timeEnd = quillon::pageChild<QLabel>(page, QStringLiteral("associativelaw_time_end_l"));
     panel.timer = timer;
     return panel;
 }

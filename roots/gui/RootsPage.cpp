@@ -1,10 +1,11 @@
 #include "roots/gui/RootsPage.h"
 
 #include "common/core/CFormat.h"
-#include "common/core/SafeFileWriter.h"
 #include "common/gui/FieldValidators.h"
+#include "common/gui/FileRoutines.h"
 #include "common/gui/GroupBoxStyle.h"
 #include "common/gui/ImageLookup.h"
+#include "common/gui/PageChild.h"
 #include "common/gui/QtColor.h"
 #include "common/gui/TabPageArea.h"
 #include "roots/engine/RootsCellColors.h"
@@ -52,15 +53,6 @@ const char* const kWidestCellText = "-1.234567890123e-100";
 // The share of a band's width the row headings get at least.
 constexpr double kHeadingShare = 0.18;
 
-template <typename Widget> Widget* pageChild(QWidget* page, const QString& name)
-{
-    auto* widget = page->findChild<Widget*>(name);
-    if (widget == nullptr) {
-        qFatal("the Roots page has no widget named %s", qPrintable(name));
-    }
-    return widget;
-}
-
 QDoubleValidator* fieldValidator(const RootsFieldRange& range, QObject* owner)
 {
     return quillon::decimalFieldValidator(range.bottom, range.top, range.decimals, owner);
@@ -104,21 +96,22 @@ RootsPage::~RootsPage() = default;
 
 void RootsPage::findWidgets()
 {
-    aValue = pageChild<QLineEdit>(page, QStringLiteral("roots_a_value"));
-    bValue = pageChild<QLineEdit>(page, QStringLiteral("roots_b_value"));
-    cValue = pageChild<QLineEdit>(page, QStringLiteral("roots_c_value"));
-    calculateButton = pageChild<QPushButton>(page, QStringLiteral("roots_calculate"));
+    aValue = quillon::pageChild<QLineEdit>(page, QStringLiteral("roots_a_value"));
+    bValue = quillon::pageChild<QLineEdit>(page, QStringLiteral("roots_b_value"));
+    cValue = quillon::pageChild<QLineEdit>(page, QStringLiteral("roots_c_value"));
+    calculateButton = quillon::pageChild<QPushButton>(page, QStringLiteral("roots_calculate"));
     for (int row = 0; row <= kRootsRowCount; ++row) {
-        rowGroups[row] = pageChild<QGroupBox>(page, QString::fromLatin1(kRowGroupNames[row]));
-        grid[row][0] = pageChild<QLabel>(page, QString::fromLatin1(kRowHeadingNames[row]));
+        rowGroups[row] =
+            quillon::pageChild<QGroupBox>(page, QString::fromLatin1(kRowGroupNames[row]));
+        grid[row][0] = quillon::pageChild<QLabel>(page, QString::fromLatin1(kRowHeadingNames[row]));
         for (int column = 1; column <= kRootsVariantCount; ++column) {
             const QString name = QString::fromLatin1(kCellNamePatterns[row]).arg(column);
-            grid[row][column] = pageChild<QLabel>(page, name);
+            grid[row][column] = quillon::pageChild<QLabel>(page, name);
         }
         headings[row] = {grid[row][0]};
     }
     for (const HeadingCompanion& companion : kHeadingCompanions) {
-        auto* label = pageChild<QLabel>(page, QString::fromLatin1(companion.name));
+        auto* label = quillon::pageChild<QLabel>(page, QString::fromLatin1(companion.name));
         headings[companion.row].insert(companion.before ? 0 : 1, label);
     }
 }
@@ -138,7 +131,7 @@ void RootsPage::stylePage()
 {
     page->setFont(QFont(QStringLiteral("Arial")));
     for (const char* name : {"roots_inputGroup", "roots_outputGroup"}) {
-        pageChild<QGroupBox>(page, QString::fromLatin1(name))
+        quillon::pageChild<QGroupBox>(page, QString::fromLatin1(name))
             ->setStyleSheet(quillon::groupBoxStyleSheet());
     }
     for (int row = 0; row <= kRootsRowCount; ++row) {
@@ -159,7 +152,7 @@ void RootsPage::stylePage()
         grid[0][column + 1]->setText(QString::fromLatin1(kColumnHeadings[column]));
     }
     const auto showImage = [this](const char* labelName, const char* imageName) {
-        pageChild<QLabel>(page, QString::fromLatin1(labelName))
+        quillon::pageChild<QLabel>(page, QString::fromLatin1(labelName))
             ->setPixmap(QPixmap(quillon::imagePath(QString::fromLatin1(imageName))));
     };
     showImage("roots_title", "ax2+bx+c=0.png");
@@ -168,7 +161,7 @@ void RootsPage::stylePage()
     showImage("roots_sqrt_formula", "b2-4ac.png");
     showImage("roots_result1", "ax2+bx+c=.png");
     showImage("roots_result2", "ax2+bx+c=.png");
-    pageChild<QLabel>(page, QStringLiteral("roots_title"))->setAlignment(Qt::AlignCenter);
+    quillon::pageChild<QLabel>(page, QStringLiteral("roots_title"))->setAlignment(Qt::AlignCenter);
 }
 
 void RootsPage::readA()
@@ -258,20 +251,15 @@ void RootsPage::highlightDifferences()
 
 QString RootsPage::saveTextData(const QString& fileName) const
 {
-    std::string error;
-    if (!quillon::writeFileAtomically(fileName.toStdString(), rootsTextExport(rootsSolver),
-                                      error)) {
-        return QString::fromStdString(error);
-    }
-    return QString();
+    return quillon::writeWholeFile(fileName, rootsTextExport(rootsSolver));
 }
 
 void RootsPage::layOut(int width, int height)
 {
     const QSize area = quillon::tabPageArea(page, QSize(width, height));
-    auto* title = pageChild<QLabel>(page, QStringLiteral("roots_title"));
-    auto* input = pageChild<QGroupBox>(page, QStringLiteral("roots_inputGroup"));
-    auto* output = pageChild<QGroupBox>(page, QStringLiteral("roots_outputGroup"));
+    auto* title = quillon::pageChild<QLabel>(page, QStringLiteral("roots_title"));
+    auto* input = quillon::pageChild<QGroupBox>(page, QStringLiteral("roots_inputGroup"));
+    auto* output = quillon::pageChild<QGroupBox>(page, QStringLiteral("roots_outputGroup"));
     const int innerWidth = area.width() - 2 * kSpacing;
 
     const int titleHeight = qMax(title->sizeHint().height(), area.height() * 7 / 100);
@@ -301,9 +289,9 @@ void RootsPage::layOutInputs(QGroupBox* input)
     const int top = contents.top() + (contents.height() - rowHeight) / 2;
     const int buttonWidth = qMax(preferredWidth(calculateButton), contents.width() / 6);
     const std::array<std::pair<QLabel*, QLineEdit*>, 3> fields = {
-        std::pair{pageChild<QLabel>(page, QStringLiteral("roots_a_label")), aValue},
-        std::pair{pageChild<QLabel>(page, QStringLiteral("roots_b_label")), bValue},
-        std::pair{pageChild<QLabel>(page, QStringLiteral("roots_c_label")), cValue}};
+        std::pair{quillon::pageChild<QLabel>(page, QStringLiteral("roots_a_label")), aValue},
+        std::pair{quillon::pageChild<QLabel>(page, QStringLiteral("roots_b_label")), bValue},
+        std::pair{quillon::pageChild<QLabel>(page, QStringLiteral("roots_c_label")), cValue}};
     int labelsWidth = 0;
     for (const auto& field : fields) {
         labelsWidth += preferredWidth(field.first) + kSpacing / 2;

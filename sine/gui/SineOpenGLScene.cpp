@@ -2,9 +2,8 @@
 
 #include "common/core/AnimationSpeed.h"
 #include "common/core/CFormat.h"
-#include "common/core/SafeFileWriter.h"
-#include "common/core/TextFileReader.h"
 #include "common/gui/FieldValidators.h"
+#include "common/gui/FileRoutines.h"
 #include "common/gui/GlPlotFrame.h"
 #include "common/gui/ImageLookup.h"
 #include "common/gui/PlotOverlay.h"
@@ -58,15 +57,6 @@ const char* screenWord(int32_t code)
     default:
         return "NAN";
     }
-}
-
-// Writes a whole file; the reason it failed, or "".
-QString writeWhole(const QString& path, const std::string& contents)
-{
-    std::string error;
-    return quillon::writeFileAtomically(path.toStdString(), contents, error)
-               ? QString()
-               : QString::fromStdString(error);
 }
 
 void setGlColor(const quillon::ColorTriple& color)
@@ -933,16 +923,14 @@ void SineOpenGLScene::drawLargestError(QPainter* painter) const
 
 QString SineOpenGLScene::saveColorFile(const QString& path) const
 {
-    return writeWhole(path, sineColorFileText(colours));
+    return quillon::writeWholeFile(path, sineColorFileText(colours));
 }
 
 QString SineOpenGLScene::loadColorFile(const QString& path)
 {
     std::string text;
-    std::string error;
-    if (!quillon::readTextFile(path.toStdString(), quillon::kMaxConfigurationFileBytes, text,
-                               error)) {
-        return QString::fromStdString(error);
+    if (const QString failure = quillon::readConfigurationFile(path, text); !failure.isEmpty()) {
+        return failure;
     }
     readSineColorFile(text, colours);
     refreshStatusWindow();
@@ -952,10 +940,10 @@ QString SineOpenGLScene::loadColorFile(const QString& path)
 
 QString SineOpenGLScene::saveTextData(const QString& path) const
 {
-    return writeWhole(path, sineTextExport(computed));
+    return quillon::writeWholeFile(path, sineTextExport(computed));
 }
 
 QString SineOpenGLScene::saveCsvData(const QString& path) const
 {
-    return writeWhole(path, sineCsvExport(computed));
+    return quillon::writeWholeFile(path, sineCsvExport(computed));
 }

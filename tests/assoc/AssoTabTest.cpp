@@ -123,12 +123,8 @@ void AssoTabTest::cleanup()
 
 void AssoTabTest::typeAndEnter(const char* field, const QString& text)
 {
-    auto* edit = child<QLineEdit>(field);
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Backspace);
-    QTest::keyClicks(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
+    retype(child<QLineEdit>(field), text);
+    QTest::keyClick(child<QLineEdit>(field), Qt::Key_Return);
 }
 
 QWidget* AssoTabTest::popWindow(const char* menu, const char* entry, const QString& title)
@@ -138,8 +134,7 @@ QWidget* AssoTabTest::popWindow(const char* menu, const char* entry, const QStri
 
 QImage AssoTabTest::grabPlot()
 {
-    QApplication::processEvents();
-    return qobject_cast<QOpenGLWidget*>(view->viewport())->grabFramebuffer();
+    return grabPlotFrame(view);
 }
 
 QPoint AssoTabTest::viewPoint(double fx, double fy) const
@@ -575,15 +570,7 @@ void AssoTabTest::focusYEditChangesOnlyThatBound()
 
 void AssoTabTest::saveOrOpen(const char* entry, const QString& path)
 {
-    answerNextModalDialog([path](QWidget* dialog) {
-        auto* nameEdit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        QVERIFY(nameEdit != nullptr);
-        nameEdit->setText(path);
-        QTest::keyClick(nameEdit, Qt::Key_Return);
-    });
-    QAction* action = menuBarAction(*window, "&File", entry);
-    QVERIFY(action != nullptr && action->isEnabled());
-    action->trigger();
+    QVERIFY(chooseFileThroughMenu(*window, QString::fromLatin1(entry), path));
 }
 
 void AssoTabTest::filesThroughTheDialogs()
@@ -748,10 +735,7 @@ void AssoTabTest::numberFieldsRefuseGroupSeparators()
     for (const char* name :
          {"associativelaw_iteration_input", "associativelaw_X_input", "associativelaw_R_input"}) {
         auto* edit = child<QLineEdit>(name);
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Backspace);
-        QTest::keyClicks(edit, QStringLiteral("1,000"));
+        retype(edit, QStringLiteral("1,000"));
         // The comma is refused as it is typed; the digits around it stand.
         QCOMPARE(edit->text(), QStringLiteral("1000"));
     }

@@ -4,10 +4,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QColor>
+#include <QGraphicsView>
 #include <QImage>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QOpenGLWidget>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -85,4 +88,34 @@ bool hasColor(const QImage& image, const QColor& color, int fromX, int toX)
 void clickIndicator(QAbstractButton* button)
 {
     QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(10, button->height() / 2));
+}
+
+void retype(QLineEdit* edit, const QString& text)
+{
+    edit->setFocus();
+    edit->selectAll();
+    QTest::keyClick(edit, Qt::Key_Backspace);
+    QTest::keyClicks(edit, text);
+}
+
+bool chooseFileThroughMenu(QMainWindow& window, const QString& entry, const QString& path)
+{
+    QAction* action = menuBarAction(window, QStringLiteral("&File"), entry);
+    if (action == nullptr || !action->isEnabled()) {
+        return false;
+    }
+    answerNextModalDialog([path](QWidget* dialog) {
+        auto* nameEdit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        QVERIFY(nameEdit != nullptr);
+        nameEdit->setText(path);
+        QTest::keyClick(nameEdit, Qt::Key_Return);
+    });
+    action->trigger();
+    return true;
+}
+
+QImage grabPlotFrame(QGraphicsView* view)
+{
+    QApplication::processEvents();
+    return qobject_cast<QOpenGLWidget*>(view->viewport())->grabFramebuffer();
 }

@@ -6,7 +6,9 @@
 class QAbstractButton;
 class QAction;
 class QColor;
+class QGraphicsView;
 class QImage;
+class QLineEdit;
 class QMainWindow;
 class QWidget;
 
@@ -32,3 +34,13 @@ bool hasColor(const QImage& image, const QColor& color, int fromX = 0, int toX =
 // Clicks a check box or radio button on its indicator, where a person clicks it (a click far
 // right of a wide button's text does nothing).
 void clickIndicator(QAbstractButton* button);
+
+// Replaces a line edit's text by typing, as a person does: select all, delete, type.
+void retype(QLineEdit* edit, const QString& text);
+
+// Chooses `path` in the file dialog that the File menu's entry opens. False when the entry is
+// missing or disabled.
+bool chooseFileThroughMenu(QMainWindow& window, const QString& entry, const QString& path);
+
+// The plot view's last frame as OpenGL drew it.
+QImage grabPlotFrame(QGraphicsView* view);

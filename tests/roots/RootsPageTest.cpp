@@ -156,23 +156,12 @@ void RootsPageTest::expectGrid(const std::string& golden, bool checkColours)
 
 void RootsPageTest::typeInto(QLineEdit* edit, const QString& text)
 {
-    edit->setFocus();
-    QTest::keyClick(edit, Qt::Key_A, Qt::ControlModifier);
-    QTest::keyClick(edit, Qt::Key_Backspace);
-    QTest::keyClicks(edit, text);
+    retype(edit, text);
 }
 
 void RootsPageTest::saveAs(const QString& path)
 {
-    answerNextModalDialog([path](QWidget* widget) {
-        auto* nameEdit = widget->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        QVERIFY(nameEdit != nullptr);
-        nameEdit->setText(path);
-        QTest::keyClick(nameEdit, Qt::Key_Return);
-    });
-    QAction* save = menuBarAction(*window, "&File", "&Save data to a txt file ...");
-    QVERIFY(save != nullptr && save->isEnabled());
-    save->trigger();
+    QVERIFY(chooseFileThroughMenu(*window, QStringLiteral("&Save data to a txt file ..."), path));
 }
 
 void RootsPageTest::startUpShowsTheInitialCoefficientsAndGrid()

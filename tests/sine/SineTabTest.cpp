@@ -107,18 +107,13 @@ void SineTabTest::cleanup()
 
 void SineTabTest::typeAndEnter(const char* field, const QString& text)
 {
-    auto* edit = child<QLineEdit>(field);
-    edit->setFocus();
-    edit->selectAll();
-    QTest::keyClick(edit, Qt::Key_Backspace);
-    QTest::keyClicks(edit, text);
-    QTest::keyClick(edit, Qt::Key_Return);
+    retype(child<QLineEdit>(field), text);
+    QTest::keyClick(child<QLineEdit>(field), Qt::Key_Return);
 }
 
 QImage SineTabTest::grabPlot()
 {
-    QApplication::processEvents();
-    return qobject_cast<QOpenGLWidget*>(view->viewport())->grabFramebuffer();
+    return grabPlotFrame(view);
 }
 
 // The plot above the legend (which holds every colour whether drawn or not), without the
@@ -161,15 +156,7 @@ void SineTabTest::showOnly(int slot)
 
 void SineTabTest::saveOrOpen(const char* entry, const QString& path)
 {
-    answerNextModalDialog([path](QWidget* dialog) {
-        auto* nameEdit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-        QVERIFY(nameEdit != nullptr);
-        nameEdit->setText(path);
-        QTest::keyClick(nameEdit, Qt::Key_Return);
-    });
-    QAction* action = menuBarAction(*window, "&File", entry);
-    QVERIFY(action != nullptr && action->isEnabled());
-    action->trigger();
+    QVERIFY(chooseFileThroughMenu(*window, QString::fromLatin1(entry), path));
 }
 
 void SineTabTest::panelStartsWithTheDefaults()
@@ -241,10 +228,7 @@ void SineTabTest::fieldsRefuseWhatTheyCannotHold()
 {
     for (const char* name : {"sine_X_input", "sine_iteration_input"}) {
         auto* edit = child<QLineEdit>(name);
-        edit->setFocus();
-        edit->selectAll();
-        QTest::keyClick(edit, Qt::Key_Backspace);
-        QTest::keyClicks(edit, QStringLiteral("1,0.5e3"));
+        retype(edit, QStringLiteral("1,0.5e3"));
         // Neither group separators, decimals nor exponents can be typed.
         QCOMPARE(edit->text(), QStringLiteral("1053"));
     }
