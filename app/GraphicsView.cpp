@@ -1,6 +1,23 @@
 #include "app/GraphicsView.h"
 
+#include <QOpenGLWidget>
 #include <QResizeEvent>
+#include <QSurfaceFormat>
+
+namespace
+{
+
+QSurfaceFormat plotSurfaceFormat()
+{
+    QSurfaceFormat format;
+    format.setDepthBufferSize(24);
+    format.setSwapBehavior(QSurfaceFormat::DoubleBuffer);
+    // The scenes draw with the fixed-function pipeline, which a core profile rejects.
+    format.setProfile(QSurfaceFormat::CompatibilityProfile);
+    return format;
+}
+
+} // namespace
 
 GraphicsView::GraphicsView() : QGraphicsView(static_cast<QWidget*>(nullptr))
 {
@@ -19,4 +36,19 @@ void GraphicsView::resizeEvent(QResizeEvent* event)
         scene()->setSceneRect(QRectF(QRect(0, 0, size.width(), size.height())));
     }
     QGraphicsView::resizeEvent(event);
+}
+
+void GraphicsView::useOpenGLViewport()
+{
+    if (qobject_cast<QOpenGLWidget*>(viewport()) != nullptr) {
+        return;
+    }
+    auto* openGLViewport = new QOpenGLWidget();
+    openGLViewport->setFormat(plotSurfaceFormat());
+    // Keeps the last frame in the widget's framebuffer, so it can be grabbed as drawn.
+    openGLViewport->setUpdateBehavior(QOpenGLWidget::PartialUpdate);
+    // The view hands its mouse tracking to its viewport only when the setting changes, so a
+    // viewport that comes later takes it over here (hover highlights need it).
+    openGLViewport->setMouseTracking(hasMouseTracking());
+    setViewport(openGLViewport);
 }

@@ -12,6 +12,10 @@ class GraphicsView : public QGraphicsView
 public:
     GraphicsView();
 
+    // Makes the view draw through an OpenGL viewport (the scenes' background passes are
+    // OpenGL); a view that already has one keeps it.
+    void useOpenGLViewport();
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
 };

@@ -23,9 +23,7 @@
 #include "ui_MainWindow.h"
 
 #include <QCloseEvent>
-#include <QOpenGLWidget>
 #include <QResizeEvent>
-#include <QSurfaceFormat>
 #include <QTimer>
 
 namespace
@@ -36,16 +34,6 @@ constexpr int kInitialContentWidth = 800;
 constexpr int kInitialContentHeight = 570;
 // The part of the window's height that the menu bar takes.
 constexpr int kMenuBarAllowance = 30;
-
-QSurfaceFormat plotSurfaceFormat()
-{
-    QSurfaceFormat format;
-    format.setDepthBufferSize(24);
-    format.setSwapBehavior(QSurfaceFormat::DoubleBuffer);
-    // The scenes draw with the fixed-function pipeline, which a core profile rejects.
-    format.setProfile(QSurfaceFormat::CompatibilityProfile);
-    return format;
-}
 
 } // namespace
 
@@ -252,11 +240,6 @@ void MainWindow::setFileRoutine(FileAction action, FileRoutine routine)
 GraphicsView* MainWindow::attachPlotView(QWidget* placeholder, QGraphicsScene* scene)
 {
     auto* view = new GraphicsView();
-    auto* viewport = new QOpenGLWidget();
-    viewport->setFormat(plotSurfaceFormat());
-    // Keeps the last frame in the widget's framebuffer, so it can be grabbed as drawn.
-    viewport->setUpdateBehavior(QOpenGLWidget::PartialUpdate);
-    view->setViewport(viewport);
     view->setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
     view->setScene(scene);
     view->setParent(placeholder);
@@ -277,6 +260,12 @@ void MainWindow::tab_Index_Changed(int index)
         return;
     }
     menuSets[index]->installInto(menuBar());
+    // A plot view starts drawing with OpenGL when its tab is first shown: until then the
+    // window needs no OpenGL at all, which keeps loading it out of the program's start-up.
+    const std::array<GraphicsView*, TabCount> views{nullptr, pentagonView, assoView, sineView};
+    if (views[index] != nullptr) {
+        views[index]->useOpenGLViewport();
+    }
     const auto scenes = plotScenesByTab();
     for (int tab = 0; tab < TabCount; ++tab) {
         if (tab != index && scenes[tab] != nullptr) {

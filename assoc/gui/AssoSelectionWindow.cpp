@@ -32,20 +32,20 @@ AssoSelectionWindow::AssoSelectionWindow(AssoOpenGLScene* scene)
 {
     setWindowTitle(tr("Selections"));
     setFont(QFont(QStringLiteral("Arial")));
-    const QString checkStyle = quillon::checkBoxStyleSheet();
+    // One sheet for the window: both boxes and every check box (the radio buttons keep the
+    // plain look).
+    setStyleSheet(quillon::groupBoxStyleSheet() + quillon::checkBoxStyleSheet());
 
     auto* functions = new QGroupBox(tr("Function visualization"));
     auto* functionsLayout = new QVBoxLayout(functions);
     functionsLayout->addWidget(new QLabel(tr("Select the function to render:")));
     auto* baseGroup = new QGroupBox(tr("Comparison"));
     auto* baseLayout = new QVBoxLayout(baseGroup);
-    comparison->setStyleSheet(checkStyle);
     baseLayout->addWidget(comparison);
     baseLayout->addWidget(new QLabel(tr("Select the base function:")));
     auto* exclusive = new QButtonGroup(this);
     for (int k = 0; k < kAssoOrderCount; ++k) {
         orders[k] = new QCheckBox;
-        orders[k]->setStyleSheet(checkStyle);
         orders[k]->setIcon(formulaIcon(k));
         orders[k]->setIconSize(kFormulaIconSize);
         functionsLayout->addWidget(orders[k]);
@@ -54,9 +54,6 @@ AssoSelectionWindow::AssoSelectionWindow(AssoOpenGLScene* scene)
         bases[k]->setIconSize(kFormulaIconSize);
         exclusive->addButton(bases[k]);
         baseLayout->addWidget(bases[k]);
-    }
-    for (QGroupBox* group : {functions, baseGroup}) {
-        group->setStyleSheet(quillon::groupBoxStyleSheet());
     }
     auto* layout = new QHBoxLayout(this);
     layout->addWidget(functions);

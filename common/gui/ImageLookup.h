@@ -11,7 +11,8 @@ namespace quillon
 // in the program is used, so the program works from any working directory.
 QString imagePath(const QString& fileName);
 
-// The image at imagePath(fileName); a null image when neither copy exists.
+// The image at imagePath(fileName), as that file was when it was first loaded; a null image
+// when neither copy exists.
 QImage loadImage(const QString& fileName);
 
 } // namespace quillon

@@ -130,12 +130,9 @@ void RootsPage::setUpInputs()
 void RootsPage::stylePage()
 {
     page->setFont(QFont(QStringLiteral("Arial")));
-    for (const char* name : {"roots_inputGroup", "roots_outputGroup"}) {
-        quillon::pageChild<QGroupBox>(page, QString::fromLatin1(name))
-            ->setStyleSheet(quillon::groupBoxStyleSheet());
-    }
+    // One sheet for the page styles all its boxes: the two titled ones and the rows.
+    page->setStyleSheet(quillon::groupBoxStyleSheet());
     for (int row = 0; row <= kRootsRowCount; ++row) {
-        rowGroups[row]->setStyleSheet(quillon::groupBoxStyleSheet());
         for (QLabel* label : grid[row]) {
             label->setAlignment(Qt::AlignCenter);
             // Keeps neighbouring cells' numbers apart even when a text fills its cell.

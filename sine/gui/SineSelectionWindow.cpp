@@ -36,13 +36,6 @@ enum Row {
     CheckBoxRow,
 };
 
-QCheckBox* styledCheckBox(const QString& text)
-{
-    auto* box = new QCheckBox(text);
-    box->setStyleSheet(quillon::checkBoxStyleSheet());
-    return box;
-}
-
 } // namespace
 
 SineSelectionWindow::SineSelectionWindow(SineOpenGLScene* scene)
@@ -51,7 +44,9 @@ SineSelectionWindow::SineSelectionWindow(SineOpenGLScene* scene)
 {
     setWindowTitle(tr("Selections"));
     setFont(QFont(QStringLiteral("Arial")));
-    boxes[SineOpenGLScene::kLibrary] = styledCheckBox(tr("Sine"));
+    // One sheet for the window draws every check box with the program's own marks.
+    setStyleSheet(quillon::checkBoxStyleSheet());
+    boxes[SineOpenGLScene::kLibrary] = new QCheckBox(tr("Sine"));
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(makeTable());
     layout->addWidget(makeLibraryRow());
@@ -85,7 +80,7 @@ QWidget* SineSelectionWindow::makeTable()
         return sineSummationName(approach.summation);
     });
     for (int k = 1; k <= kSineApproachCount; ++k) {
-        boxes[k] = styledCheckBox(QString());
+        boxes[k] = new QCheckBox;
         grid->addWidget(boxes[k], CheckBoxRow, k - 1, Qt::AlignHCenter);
     }
     return table;

@@ -14,6 +14,7 @@ private slots:
     void numbersUseAPointWhateverTheLocale();
     void embeddedImageIsFoundFromAnyFolder();
     void imageInTheWorkingFolderTakesPrecedence();
+    void repeatedLoadsShareOneDecodedImage();
     void unknownImageIsNull();
 };
 
@@ -59,6 +60,16 @@ void CommonGuiTest::imageInTheWorkingFolderTakesPrecedence()
     QCOMPARE(path, QDir(folder.path()).absoluteFilePath(QStringLiteral("quillon.png")));
     QCOMPARE(found.size(), QSize(7, 5));
     QCOMPARE(QColor(found.pixel(3, 3)), QColor(Qt::green));
+}
+
+// Windows that show the same picture share one decoded copy of it.
+void CommonGuiTest::repeatedLoadsShareOneDecodedImage()
+{
+    const QImage first = quillon::loadImage(QStringLiteral("func1.png"));
+    const QImage second = quillon::loadImage(QStringLiteral("func1.png"));
+    QVERIFY(!first.isNull());
+    QCOMPARE(second.cacheKey(), first.cacheKey());
+    QVERIFY(quillon::loadImage(QStringLiteral("func2.png")).cacheKey() != first.cacheKey());
 }
 
 void CommonGuiTest::unknownImageIsNull()

@@ -63,6 +63,7 @@ private slots:
     void resizeWithoutSceneTouchesNoScene();
     void resizeSetsSceneRectToTheNewSize();
     void plotViewsHaveOpenGLViewportsAndNoScrollBars();
+    void plotViewsTakeOpenGLWhenTheirTabIsFirstShown();
     void eachPlotViewRendersItsWhiteBackgroundThroughOpenGL();
     void backgroundPassDrawsWithOpenGLInTheRequestedBox();
 };
@@ -131,8 +132,37 @@ void GraphicsViewTest::plotViewsHaveOpenGLViewportsAndNoScrollBars()
         QVERIFY(!view->horizontalScrollBar()->isVisible());
         QVERIFY(!view->verticalScrollBar()->isVisible());
         QVERIFY(view->testAttribute(Qt::WA_MouseTracking));
+        QVERIFY(viewport->hasMouseTracking());
         QCOMPARE(view->viewportUpdateMode(), QGraphicsView::FullViewportUpdate);
         QCOMPARE(view->viewport()->size(), view->size());
+    }
+}
+
+// The window opens on the Roots tab without OpenGL; each plot view gets its OpenGL viewport
+// when its tab is first chosen, and keeps that one viewport from then on.
+void GraphicsViewTest::plotViewsTakeOpenGLWhenTheirTabIsFirstShown()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto* tabs = window.findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+    for (const PlotTab& tab : kPlotTabs) {
+        QVERIFY2(qobject_cast<QOpenGLWidget*>(viewIn(window, tab.placeholder)->viewport()) ==
+                     nullptr,
+                 tab.placeholder);
+    }
+    for (const PlotTab& tab : kPlotTabs) {
+        tabs->setCurrentIndex(tab.index);
+        QWidget* viewport = viewIn(window, tab.placeholder)->viewport();
+        QVERIFY2(qobject_cast<QOpenGLWidget*>(viewport) != nullptr, tab.placeholder);
+        tabs->setCurrentIndex(0);
+        tabs->setCurrentIndex(tab.index);
+        QCOMPARE(viewIn(window, tab.placeholder)->viewport(), viewport);
+    }
+    for (const PlotTab& tab : kPlotTabs) {
+        GraphicsView* view = viewIn(window, tab.placeholder);
+        tabs->setCurrentIndex(tab.index);
+        QTRY_VERIFY(qobject_cast<QOpenGLWidget*>(view->viewport())->isValid());
     }
 }
 
