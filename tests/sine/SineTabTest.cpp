@@ -1,6 +1,7 @@
 #include "app/GraphicsView.h"
 #include "app/MainWindow.h"
 #include "common/gui/PlotFocusWindow.h"
+#include "common/gui/PlotOverlay.h"
 #include "sine/engine/SineApproaches.h"
 #include "sine/gui/SineOpenGLScene.h"
 #include "tests/gui/GuiTestSupport.h"
@@ -27,6 +28,20 @@ std::string fileContents(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string("<none>");
+}
+
+// The error icon is a red disc; no curve colour of the test is that red.
+bool hasRedPixel(const QImage& image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QColor pixel = image.pixelColor(x, y);
+            if (pixel.red() > 150 && pixel.green() < 100 && pixel.blue() < 100) {
+                return true;
+            }
+        }
+    }
+    return false;
 }
 
 QColor colorOf(const quillon::ColorTriple& color)
@@ -62,6 +77,8 @@ private slots:
     void timeSliderMovesTheWindow();
     void selectNoneFromTheLegendAndTheLibraryEntry();
     void libraryLineIsDrawnOnTop();
+    void errorMarkerAndFlashingIcon();
+    void damagedColourFilesChangeOnlyWhatTheyHold();
 
 private:
     template <typename T> T* child(const char* name) const
@@ -515,6 +532,78 @@ void SineTabTest::libraryLineIsDrawnOnTop()
         }
     }
     QVERIFY2(black > view->width() / 5, qPrintable(QString::number(black)));
+}
+
+// Func1 alone stops at index 17 of the window 0..20. A vertical marker in its colour spans
+// y = -1 .. 1 at that index in every frame; the error icon above it shows on every other tick.
+void SineTabTest::errorMarkerAndFlashingIcon()
+{
+    tickUntil([this] { return scene->xWindow().slideInDone(); });
+    showOnly(1);
+    scene->setPaused(true);
+    const QColor pink = colorOf(scene->colors()[1]);
+    const auto pixelRow = [this](float y) {
+        return int((scene->getYHigh() - y) / (scene->getYHigh() - scene->getYLow()) *
+                   float(view->height()));
+    };
+    // x(17) = -1.5 + 17 * 0.15 = 1.05, that is 0.85 of the width.
+    const int markerX = int(0.85 * view->width());
+    const auto markerAt = [&](const QImage& frame, float y) {
+        return hasColor(frame.copy(0, pixelRow(y), frame.width(), 1), pink, markerX - 1,
+                        markerX + 1);
+    };
+    const QRect icon =
+        quillon::plotErrorIconRect(0.85f * float(view->width()), view->width(), view->height())
+            .toRect();
+    bool iconShown[2] = {};
+    for (bool& shown : iconShown) {
+        const QImage frame = plotArea().convertToFormat(QImage::Format_RGB32);
+        for (const float y : {0.9f, 0.5f, 0.0f, -0.5f, -0.95f}) {
+            QVERIFY2(markerAt(frame, y), qPrintable(QString::number(y)));
+        }
+        QVERIFY(!markerAt(frame, -1.1f));
+        // Halfway between two nodes there is no marker.
+        QVERIFY(!hasColor(frame.copy(0, pixelRow(0.5f), frame.width(), 1), pink,
+                          int(0.8275 * view->width()) - 1, int(0.8275 * view->width()) + 1));
+        shown = hasRedPixel(frame.copy(icon));
+        scene->runningMan();
+    }
+    QVERIFY(iconShown[0] != iconShown[1]);
+}
+
+// A configuration file is read as far as it holds colours: CRLF line ends, a line cut short,
+// text with no numbers and an enormous file each change only the values they hold.
+void SineTabTest::damagedColourFilesChangeOnlyWhatTheyHold()
+{
+    const SineColors before = scene->colors();
+    const auto writeFile = [this](const char* name, const QByteArray& contents) {
+        QFile file(folder->filePath(QString::fromLatin1(name)));
+        return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size()
+                   ? file.fileName()
+                   : QString();
+    };
+    saveOrOpen("&Open a configuration file ...",
+               writeFile("cut.conf", "Sine Color R 5 G 6 B 7\r\nFunc1 Color R 8 G 9"));
+    SineColors expected = before;
+    expected[0] = {5, 6, 7};
+    expected[1] = {8, 9, before[1].blue};
+    QCOMPARE(scene->colors(), expected);
+
+    saveOrOpen("&Open a configuration file ...",
+               writeFile("words.conf", QByteArray("Func1 Color R G B\n").repeated(5000)));
+    QCOMPARE(scene->colors(), expected);
+
+    // A gigabyte (sparse) after one good line: only the first megabyte is read.
+    const QString enormous = writeFile("enormous.conf", "Sine Color R 1 G 2 B 3\n");
+    QVERIFY(QFile(enormous).resize(qint64(1) << 30));
+    saveOrOpen("&Open a configuration file ...", enormous);
+    expected[0] = {1, 2, 3};
+    QCOMPARE(scene->colors(), expected);
+
+    // Files that cannot be read at all are reported and change nothing.
+    QVERIFY(!scene->loadColorFile(folder->filePath(QStringLiteral("missing.conf"))).isEmpty());
+    QVERIFY(!scene->loadColorFile(folder->path()).isEmpty());
+    QCOMPARE(scene->colors(), expected);
 }
 
 QTEST_MAIN(SineTabTest)
