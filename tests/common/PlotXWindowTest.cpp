@@ -4,6 +4,8 @@
 
 using quillon::plotCurrentNode;
 using quillon::plotLegendRowAt;
+using quillon::plotMoveEnd;
+using quillon::plotMoveStart;
 using quillon::plotNodeX;
 using quillon::PlotXWindow;
 using quillon::plotZoom;
@@ -17,6 +19,52 @@ TEST(PlotXWindow, DisplayedNodesFollowTheWindowAndStep)
     EXPECT_FALSE(window.displays(6));
     EXPECT_FALSE(window.displays(0));
     EXPECT_FALSE(window.displays(30));
+}
+
+// Free start: any start below count - 1 (300 - 1 = 299) is taken, the end stays.
+TEST(PlotXWindow, FreeStartStopsBelowTheLastIndex)
+{
+    PlotXWindow window{0, 20, 1, 0};
+    EXPECT_TRUE(plotMoveStart(window, 298, 300, false));
+    EXPECT_EQ(window.start, 298);
+    EXPECT_EQ(window.end, 20);
+    EXPECT_FALSE(plotMoveStart(window, 299, 300, false));
+    EXPECT_EQ(window.start, 298);
+}
+
+// Kept width: the end moves along (20 - 0 + 279 = 299 fits, 280 would end at 300).
+TEST(PlotXWindow, KeptWidthStartMovesTheEndAlong)
+{
+    PlotXWindow window{0, 20, 1, 0};
+    EXPECT_TRUE(plotMoveStart(window, 279, 300, true));
+    EXPECT_EQ(window.start, 279);
+    EXPECT_EQ(window.end, 299);
+    EXPECT_FALSE(plotMoveStart(window, 280, 300, true));
+    EXPECT_EQ(window.start, 279);
+    EXPECT_EQ(window.end, 299);
+}
+
+// Free end: values not above the step size are ignored.
+TEST(PlotXWindow, FreeEndMustExceedTheStep)
+{
+    PlotXWindow window{0, 20, 3, 0};
+    EXPECT_FALSE(plotMoveEnd(window, 3, false));
+    EXPECT_EQ(window.end, 20);
+    EXPECT_TRUE(plotMoveEnd(window, 4, false));
+    EXPECT_EQ(window.end, 4);
+    EXPECT_EQ(window.start, 0);
+}
+
+// Kept width: the start moves along, refused when it would go below 0 (10 - 30 + 19 < 0).
+TEST(PlotXWindow, KeptWidthEndMovesTheStartAlong)
+{
+    PlotXWindow window{10, 30, 1, 0};
+    EXPECT_TRUE(plotMoveEnd(window, 20, true));
+    EXPECT_EQ(window.start, 0);
+    EXPECT_EQ(window.end, 20);
+    EXPECT_FALSE(plotMoveEnd(window, 19, true));
+    EXPECT_EQ(window.start, 0);
+    EXPECT_EQ(window.end, 20);
 }
 
 TEST(PlotXWindow, NodesSlideInFromTheRight)
