@@ -78,6 +78,7 @@ private slots:
     void selectNoneFromTheLegendAndTheLibraryEntry();
     void libraryLineIsDrawnOnTop();
     void errorMarkerAndFlashingIcon();
+    void animationStopsAtTheLastIndexWithoutPausing();
     void damagedColourFilesChangeOnlyWhatTheyHold();
 
 private:
@@ -569,6 +570,22 @@ void SineTabTest::errorMarkerAndFlashingIcon()
         scene->runningMan();
     }
     QVERIFY(iconShown[0] != iconShown[1]);
+}
+
+// With N = 30 the window 0..20 slides until its end is 29 (29 + 1 would reach N), then stays
+// there while the animation keeps running.
+void SineTabTest::animationStopsAtTheLastIndexWithoutPausing()
+{
+    typeAndEnter("sine_iteration_input", QStringLiteral("30"));
+    tickUntil([this] { return scene->xWindow().end == 29; });
+    QCOMPARE(scene->xWindow().start, 9);
+    for (int tick = 0; tick < 5; ++tick) {
+        scene->runningMan();
+        QCOMPARE(scene->xWindow().start, 9);
+        QCOMPARE(scene->xWindow().end, 29);
+        QVERIFY(!scene->isPaused());
+    }
+    QCOMPARE(child<QPushButton>("sine_pause")->text(), QStringLiteral("Pause"));
 }
 
 // A configuration file is read as far as it holds colours: CRLF line ends, a line cut short,
