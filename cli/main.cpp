@@ -1,5 +1,6 @@
 #include "cli/AssocCommand.h"
 #include "cli/CliRunner.h"
+#include "cli/PentagonCommand.h"
 #include "cli/RootsCommand.h"
 #include "cli/SineCommand.h"
 
@@ -12,5 +13,6 @@ int main(int argc, char* argv[])
     runner.addCommand(std::make_unique<RootsCommand>());
     runner.addCommand(std::make_unique<AssocCommand>());
     runner.addCommand(std::make_unique<SineCommand>());
+    runner.addCommand(std::make_unique<PentagonCommand>());
     return runner.run(QCoreApplication::arguments(), {stdout, stderr});
 }

@@ -5,19 +5,6 @@
 
 namespace quillon
 {
-namespace
-{
-
-void skipWords(WordReader& reader, int count)
-{
-    std::string ignored;
-    for (int i = 0; i < count; ++i) {
-        reader.readWord(ignored);
-    }
-}
-
-} // namespace
-
 std::string colorFileLine(const std::string& name, const ColorTriple& color)
 {
     return name + cformat(" Color R %d G %d B %d\n", color.red, color.green, color.blue);
@@ -26,12 +13,17 @@ std::string colorFileLine(const std::string& name, const ColorTriple& color)
 void readColorFileLines(const std::string& text, ColorTriple* colors, size_t count)
 {
     WordReader reader(text);
+    readColorFileLines(reader, colors, count);
+}
+
+void readColorFileLines(WordReader& reader, ColorTriple* colors, size_t count)
+{
     for (size_t i = 0; i < count; ++i) {
-        skipWords(reader, 3);
+        reader.skipWords(3);
         reader.readInt(colors[i].red);
-        skipWords(reader, 1);
+        reader.skipWords(1);
         reader.readInt(colors[i].green);
-        skipWords(reader, 1);
+        reader.skipWords(1);
         reader.readInt(colors[i].blue);
     }
 }

@@ -19,4 +19,9 @@ std::string colorFileLine(const std::string& name, const ColorTriple& color);
 // they are.
 void readColorFileLines(const std::string& text, ColorTriple* colors, size_t count);
 
+class WordReader;
+
+// The same, reading on from where `reader` stands (for files that hold other lines first).
+void readColorFileLines(WordReader& reader, ColorTriple* colors, size_t count);
+
 } // namespace quillon

@@ -50,6 +50,14 @@ bool WordReader::readWord(std::string& word)
     return true;
 }
 
+void WordReader::skipWords(int count)
+{
+    std::string ignored;
+    for (int i = 0; i < count; ++i) {
+        readWord(ignored);
+    }
+}
+
 bool WordReader::readInt(int& value)
 {
     skipWhitespace();

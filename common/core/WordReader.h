@@ -20,6 +20,9 @@ public:
     // Skips whitespace and reads the next word. False at the end of the text.
     bool readWord(std::string& word);
 
+    // Reads and drops `count` words (fewer at the end of the text).
+    void skipWords(int count);
+
     // Skips whitespace and reads an optionally signed decimal integer. When the next word
     // does not start with one, returns false, leaves `value` alone and consumes nothing but
     // the whitespace, so the word is still there for readWord.
