@@ -9,7 +9,10 @@
 #include "assoc/gui/AssoSelectionWindow.h"
 #include "assoc/gui/AssoUserMenu.h"
 #include "common/gui/TabPageArea.h"
+#include "pentagon/gui/PentagonHelpWindow.h"
 #include "pentagon/gui/PentagonOpenGLScene.h"
+#include "pentagon/gui/PentagonPanel.h"
+#include "pentagon/gui/PentagonUserMenu.h"
 #include "roots/gui/RootsHelpWindow.h"
 #include "roots/gui/RootsPage.h"
 #include "roots/gui/RootsUserMenu.h"
@@ -46,8 +49,7 @@ MainWindow::MainWindow(QWidget* parent)
     buildMenus();
     setUpRootsTab();
 
-    pentagonScene = new PentagonOpenGLScene(this);
-    pentagonView = attachPlotView(ui->pentagon_VisWindow, pentagonScene);
+    setUpPentagonTab();
     setUpAssoTab();
     setUpSineTab();
 
@@ -99,9 +101,68 @@ void MainWindow::setUpRootsTab()
     }
 }
 
+void MainWindow::setUpPentagonTab()
+{
+    pentagonScene =
+        new PentagonOpenGLScene(PentagonPanel::find(ui->pentagon_win), &pentagonColors, this);
+    installAuxiliaryWindow(AuxWindow::PentagonHelp, new PentagonHelpWindow(tr("About")));
+    installAuxiliaryWindow(AuxWindow::PentagonUserMenu, new PentagonUserMenu(tr("Help")));
+    pentagonView = attachPlotView(ui->pentagon_VisWindow, pentagonScene);
+    connectPentagonPanel();
+
+    PentagonOpenGLScene* scene = pentagonScene;
+    setFileRoutine(FileAction::PentagonOpen,
+                   [scene](const QString& name) { return scene->loadConfiguration(name); });
+    setFileRoutine(FileAction::PentagonSave,
+                   [scene](const QString& name) { return scene->saveConfiguration(name); });
+    setFileRoutine(FileAction::PentagonSaveTxt,
+                   [scene](const QString& name) { return scene->saveHistoryText(name); });
+    pentagonTimer = new QTimer(this);
+    pentagonTimer->setObjectName(QStringLiteral("pentagon_timer"));
+    connect(pentagonTimer, &QTimer::timeout, scene, &PentagonOpenGLScene::runningMan);
+    pentagonTimer->start(400);
+}
+
+void MainWindow::connectPentagonPanel()
+{
+    PentagonOpenGLScene* scene = pentagonScene;
+    const std::pair<QPushButton*, void (PentagonOpenGLScene::*)()> buttons[] = {
+        {ui->pentagon_In, &PentagonOpenGLScene::in},
+        {ui->pentagon_Out, &PentagonOpenGLScene::out},
+        {ui->pentagon_clean, &PentagonOpenGLScene::clearHistory},
+        {ui->pentagon_Default, &PentagonOpenGLScene::resetToDefault}};
+    for (const auto& [button, slot] : buttons) {
+        connect(button, &QPushButton::clicked, scene, slot);
+    }
+    const std::pair<QAbstractButton*, void (PentagonOpenGLScene::*)(bool)> toggles[] = {
+        {ui->pentagon_sequentialOrder, &PentagonOpenGLScene::setSequentialOrder},
+        {ui->pentagon_alternativeOrder, &PentagonOpenGLScene::setAlternativeOrder},
+        {ui->pentagon_epsilon1, &PentagonOpenGLScene::setEpsilon1},
+        {ui->pentagon_epsilon2, &PentagonOpenGLScene::setEpsilon2},
+        {ui->pentagon_epsilon3, &PentagonOpenGLScene::setEpsilon3},
+        {ui->pentagon_epsilon4, &PentagonOpenGLScene::setEpsilon4},
+        {ui->pentagon_epsilon5, &PentagonOpenGLScene::setEpsilon5},
+        {ui->pentagon_epsilon6, &PentagonOpenGLScene::setEpsilon6},
+        {ui->pentagon_userInput, &PentagonOpenGLScene::UserPentagon},
+        {ui->pentagon_animateInput, &PentagonOpenGLScene::needAnimation},
+        {ui->pentagon_autoInput, &PentagonOpenGLScene::autoPentagon},
+        {ui->pentagon_animate_regular, &PentagonOpenGLScene::regularPentagon},
+        {ui->pentagon_animate_default, &PentagonOpenGLScene::defaultPentagon},
+        {ui->pentagon_xvalues, &PentagonOpenGLScene::XIndices},
+        {ui->pentagon_yvalues, &PentagonOpenGLScene::YIndices},
+        {ui->pentagon_xaxis, &PentagonOpenGLScene::XAxis},
+        {ui->pentagon_yaxis, &PentagonOpenGLScene::YAxis}};
+    for (const auto& [button, slot] : toggles) {
+        connect(button, &QAbstractButton::toggled, scene, slot);
+    }
+    // The panel opens in the animated example's state: its epsilon choices stay hidden.
+    ui->pentagon_g_epsilon->hide();
+}
+
 void MainWindow::setUpAssoTab()
 {
     assoTimer = new QTimer(this);
+    assoTimer->setObjectName(QStringLiteral("associativelaw_timer"));
     assoScene = new AssoOpenGLScene(AssoPanel::find(ui->associativelaw_win, assoTimer), this);
     connect(assoTimer, &QTimer::timeout, assoScene, &AssoOpenGLScene::runningMan);
     auto* selection = new AssoSelectionWindow(assoScene);

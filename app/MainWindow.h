@@ -3,6 +3,7 @@
 #include "app/AuxiliaryWindowSet.h"
 #include "app/MenuTable.h"
 #include "app/ModuleFileActions.h"
+#include "pentagon/engine/PentagonFiles.h"
 
 #include <QMainWindow>
 #include <array>
@@ -95,6 +96,8 @@ protected:
 private:
     void buildMenus();
     void setUpRootsTab();
+    void setUpPentagonTab();
+    void connectPentagonPanel();
     void setUpAssoTab();
     void setUpSineTab();
     void connectSinePanel();
@@ -111,7 +114,9 @@ private:
     std::array<std::unique_ptr<TabMenuSet>, TabCount> menuSets;
 
     std::unique_ptr<RootsPage> rootsPage;
+    PentagonColorSettings pentagonColors;
     PentagonOpenGLScene* pentagonScene = nullptr;
+    QTimer* pentagonTimer = nullptr;
     GraphicsView* pentagonView = nullptr;
     AssoOpenGLScene* assoScene = nullptr;
     QTimer* assoTimer = nullptr;

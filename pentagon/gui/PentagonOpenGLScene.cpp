@@ -1,12 +1,610 @@
 #include "pentagon/gui/PentagonOpenGLScene.h"
 
+#include "common/core/CFormat.h"
+#include "common/core/PlotXWindow.h"
+#include "common/gui/FileRoutines.h"
 #include "common/gui/GlPlotFrame.h"
+#include "common/gui/PlotOverlay.h"
+#include "pentagon/engine/PentagonView.h"
 
-PentagonOpenGLScene::PentagonOpenGLScene(QObject* parent) : OpenGLPlotScene(parent) {}
+#include <GL/gl.h>
+#include <QCheckBox>
+#include <QFontMetrics>
+#include <QGraphicsSceneMouseEvent>
+#include <QGraphicsView>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
 
-void PentagonOpenGLScene::drawBackground(QPainter* painter, const QRectF&)
+namespace
 {
+
+// The six epsilons of the panel, and the range each one presets before the pentagon is fitted:
+// -0.05 (1 + epsilon) to 1.05 (1 + epsilon).
+struct EpsilonPreset {
+    float epsilon;
+    float low;
+    float high;
+};
+constexpr EpsilonPreset kEpsilonPresets[6] = {
+    {0.025f, -0.05125f, 1.07625f}, {0.05f, -0.0525f, 1.1025f},    {0.075f, -0.05375f, 1.12875f},
+    {0.1f, -0.055f, 1.155f},       {0.125f, -0.05625f, 1.18125f}, {0.15f, -0.0575f, 1.2075f}};
+
+// The Default pentagon of the animated example is built with this epsilon, whichever of the
+// six the panel shows.
+constexpr float kAnimationEpsilon = 0.175f;
+
+// The grey of a pentagon `age` steps older than the newest: 8, 16, ... 120, then 128.
+int greyForAge(int age)
+{
+    return age >= 16 ? 128 : int(float(age) * 0.0625f * 128.0f);
+}
+
+void glColor(const quillon::ColorTriple& color)
+{
+    glColor3f(color.redF(), color.greenF(), color.blueF());
+}
+
+QString labelText(float value)
+{
+    return QString::fromStdString(quillon::cformat("%.2e", double(value)));
+}
+
+} // namespace
+
+PentagonOpenGLScene::PentagonOpenGLScene(const PentagonPanel& panel,
+                                         PentagonColorSettings* colorSettings, QObject* parent)
+    : OpenGLPlotScene(parent), panel(panel), colorSettings(colorSettings)
+{
+    setRange(geometry.fittedRange());
+    selected.assign(geometry.getHistory().size(), false);
+}
+
+void PentagonOpenGLScene::setFocusFields(QLineEdit* xMinField, QLineEdit* xMaxField,
+                                         QLineEdit* yMinField, QLineEdit* yMaxField)
+{
+    focusFields[0] = xMinField;
+    focusFields[1] = xMaxField;
+    focusFields[2] = yMinField;
+    focusFields[3] = yMaxField;
+}
+
+void PentagonOpenGLScene::setRange(const PentagonRange& range)
+{
+    xMin = range.xMin;
+    xMax = range.xMax;
+    yMin = range.yMin;
+    yMax = range.yMax;
+}
+
+void PentagonOpenGLScene::showCounts()
+{
+    panel.numIn->setText(QString::fromStdString(quillon::cformat("%d", geometry.getNumIns())));
+    panel.numOut->setText(QString::fromStdString(quillon::cformat("%d", geometry.getNumOuts())));
+}
+
+// Starts the history over and refits the range; the selection starts over with it.
+void PentagonOpenGLScene::reset()
+{
+    geometry.resetHistory();
+    setRange(geometry.fittedRange());
+    selected.assign(geometry.getHistory().size(), false);
+    showCounts();
+    repaint();
+}
+
+void PentagonOpenGLScene::in()
+{
+    geometry.in();
+    setRange(geometry.fittedRange());
+    selected.resize(geometry.getHistory().size(), false);
+    showCounts();
+    repaint();
+}
+
+void PentagonOpenGLScene::out()
+{
+    geometry.out();
+    setRange(geometry.fittedRange());
+    selected.resize(geometry.getHistory().size(), false);
+    showCounts();
+    repaint();
+}
+
+void PentagonOpenGLScene::autoPentagon(bool on)
+{
+    if (!on) {
+        // Leaving this mode falls back to the animation.
+        needAnimation(true);
+        return;
+    }
+    panel.epsilonGroup->show();
+    animationStep = 0;
+    animating = false;
+    geometry.setUserMode(false);
+    reset();
+    panel.animateInput->setChecked(false);
+    panel.animationCount->hide();
+    panel.animationPentagon->hide();
+    panel.userInput->setChecked(false);
+    panel.start->setText(QStringLiteral("Reset"));
+}
+
+void PentagonOpenGLScene::UserPentagon(bool on)
+{
+    animating = false;
+    reset();
+    geometry.setUserMode(on);
+    animationStep = 0;
+    reset();
+    panel.animateInput->setChecked(false);
+    panel.animationCount->hide();
+    panel.animationPentagon->hide();
+    panel.autoInput->setChecked(false);
+    panel.epsilonGroup->hide();
+    panel.start->setText(QStringLiteral("Reset"));
+}
+
+void PentagonOpenGLScene::needAnimation(bool on)
+{
+    animating = on;
+    panel.animationCount->show();
+    panel.animationPentagon->show();
+    animationStep = 0;
+    geometry.setUserMode(false);
+    reset();
+    panel.userInput->setChecked(false);
+    panel.autoInput->setChecked(false);
+    panel.epsilonGroup->hide();
+    if (!firstAnimation) {
+        panel.start->setText(QStringLiteral("Restart"));
+    } else {
+        firstAnimation = false;
+    }
+}
+
+void PentagonOpenGLScene::setSequentialOrder(bool)
+{
+    order = 0;
+    if (animating) {
+        animationStep = 0;
+        reset();
+    }
+}
+
+void PentagonOpenGLScene::setAlternativeOrder(bool)
+{
+    order = 1;
+    if (animating) {
+        animationStep = 0;
+        reset();
+    }
+}
+
+// The number of operations stays 10.
+void PentagonOpenGLScene::updateOperationNum() {}
+
+void PentagonOpenGLScene::regularPentagon(bool on)
+{
+    if (on) {
+        geometry.setRegular(true);
+        needAnimation(true);
+    }
+}
+
+void PentagonOpenGLScene::defaultPentagon(bool on)
+{
+    if (on) {
+        geometry.setEpsilon(kAnimationEpsilon);
+        geometry.setRegular(false);
+        needAnimation(true);
+    }
+}
+
+void PentagonOpenGLScene::setEpsilonPreset(int index, bool on)
+{
+    if (!on) {
+        return;
+    }
+    const EpsilonPreset& preset = kEpsilonPresets[index];
+    geometry.setEpsilon(preset.epsilon);
+    setRange({preset.low, preset.high, preset.low, preset.high});
+    reset();
+}
+
+void PentagonOpenGLScene::setEpsilon1(bool on)
+{
+    setEpsilonPreset(0, on);
+}
+void PentagonOpenGLScene::setEpsilon2(bool on)
+{
+    setEpsilonPreset(1, on);
+}
+void PentagonOpenGLScene::setEpsilon3(bool on)
+{
+    setEpsilonPreset(2, on);
+}
+void PentagonOpenGLScene::setEpsilon4(bool on)
+{
+    setEpsilonPreset(3, on);
+}
+void PentagonOpenGLScene::setEpsilon5(bool on)
+{
+    setEpsilonPreset(4, on);
+}
+void PentagonOpenGLScene::setEpsilon6(bool on)
+{
+    setEpsilonPreset(5, on);
+}
+
+// A field's text as displayed, read as a float; text that does not convert reads as 0.
+float PentagonOpenGLScene::readField(const QLineEdit* field)
+{
+    return field->text().toFloat();
+}
+
+void PentagonOpenGLScene::updateXmin()
+{
+    if (focusFields[0] != nullptr) {
+        xMin = readField(focusFields[0]);
+        repaint();
+    }
+}
+void PentagonOpenGLScene::updateXmax()
+{
+    if (focusFields[1] != nullptr) {
+        xMax = readField(focusFields[1]);
+        repaint();
+    }
+}
+void PentagonOpenGLScene::updateYmin()
+{
+    if (focusFields[2] != nullptr) {
+        yMin = readField(focusFields[2]);
+        repaint();
+    }
+}
+void PentagonOpenGLScene::updateYmax()
+{
+    if (focusFields[3] != nullptr) {
+        yMax = readField(focusFields[3]);
+        repaint();
+    }
+}
+
+void PentagonOpenGLScene::resetXY()
+{
+    setRange(fittedRange());
+    repaint();
+}
+
+void PentagonOpenGLScene::XYapply()
+{
+    updateXmin();
+    updateXmax();
+    updateYmin();
+    updateYmax();
+}
+
+// Reserved zoom controls: they repaint and change nothing.
+void PentagonOpenGLScene::changeScaleFactor(int)
+{
+    repaint();
+}
+void PentagonOpenGLScene::resetView()
+{
+    repaint();
+}
+
+void PentagonOpenGLScene::resetToDefault()
+{
+    if (animating) {
+        setPaused(false);
+        needAnimation(true);
+    } else {
+        reset();
+    }
+}
+
+void PentagonOpenGLScene::resetUserInput()
+{
+    geometry.setUserMode(true);
+    reset();
+}
+
+void PentagonOpenGLScene::XIndices(bool on)
+{
+    showXIndices = on;
+    repaint();
+}
+void PentagonOpenGLScene::YIndices(bool on)
+{
+    showYIndices = on;
+    repaint();
+}
+void PentagonOpenGLScene::XAxis(bool on)
+{
+    showXAxis = on;
+    repaint();
+}
+void PentagonOpenGLScene::YAxis(bool on)
+{
+    showYAxis = on;
+    repaint();
+}
+
+void PentagonOpenGLScene::clearHistory()
+{
+    geometry.clearHistory();
+    setRange(geometry.fittedRange());
+    selected.assign(geometry.getHistory().size(), false);
+    showCounts();
+    repaint();
+}
+
+// One animation tick: five Ins then five Outs, or In and Out in turn, ten steps in all.
+void PentagonOpenGLScene::runningMan()
+{
+    if (!animating || isPaused()) {
+        return;
+    }
+    const int k = animationStep;
+    if (order == 0) {
+        if (k < operationNum / 2) {
+            in();
+            animationStep += 1;
+        } else if (k < operationNum) {
+            out();
+            animationStep += 1;
+        }
+    } else if (order == 1 && k < operationNum) {
+        if (k % 2 == 0) {
+            in();
+        } else {
+            out();
+        }
+        animationStep += 1;
+    }
+    repaint();
+}
+
+// The pentagons drawn: the valid history entries, or in selection mode the selected ones.
+std::vector<PentagonPoints> PentagonOpenGLScene::drawnPentagons() const
+{
+    const std::vector<PentagonPoints> valid = geometry.validPentagons();
+    if (!selectionMode) {
+        return valid;
+    }
+    std::vector<PentagonPoints> chosen;
+    for (size_t n = 0; n < valid.size() && n < selected.size(); ++n) {
+        if (selected[n]) {
+            chosen.push_back(valid[n]);
+        }
+    }
+    return chosen;
+}
+
+// While points are being entered nothing is walked and the current range is widened by 10%.
+PentagonRange PentagonOpenGLScene::fittedRange() const
+{
+    const bool entering = geometry.isUserMode() && geometry.getUserPointCount() < 5;
+    return pentagonFittedRange(range(),
+                               entering ? std::vector<PentagonPoints>{} : drawnPentagons());
+}
+
+void PentagonOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
+{
+    mousePos = event->scenePos();
+    if (event->button() == Qt::LeftButton) {
+        pressPos = event->scenePos();
+        if (geometry.isUserMode() && geometry.getUserPointCount() < 5 && !views().isEmpty()) {
+            // While entering, the view shows -1 .. 1 both ways.
+            const QRect viewport = views().first()->viewport()->rect();
+            const float w = float(viewport.width());
+            const float h = float(viewport.height());
+            const float x = ((float(event->scenePos().x()) - w * 0.5f) * 2.0f) / w;
+            const float y = ((h * 0.5f - float(event->scenePos().y())) * 2.0f) / h;
+            geometry.addManualPoint(x, y);
+            if (geometry.getUserPointCount() == 5) {
+                setRange(geometry.fittedRange());
+                selected.assign(geometry.getHistory().size(), false);
+            }
+            pressPos = QPointF(-1, -1);
+        }
+    }
+    event->accept();
+    repaint();
+}
+
+void PentagonOpenGLScene::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
+{
+    mousePos = event->scenePos();
+    repaint();
+}
+
+void PentagonOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        if (pressPos.x() != -1 && pressPos.y() != -1) {
+            const PentagonRange zoomed = pentagonZoomToRectangle(
+                range(), float(pressPos.x()), float(pressPos.y()), float(event->scenePos().x()),
+                float(event->scenePos().y()), viewWidth, viewHeight);
+            setRange(zoomed);
+            zoomStack.push_back(zoomed);
+            pressPos = QPointF(-1, -1);
+        }
+    } else if (event->button() == Qt::RightButton) {
+        if (!zoomStack.empty()) {
+            zoomStack.pop_back();
+        }
+        setRange(zoomStack.empty() ? fittedRange() : zoomStack.back());
+    }
+    event->accept();
+    repaint();
+}
+
+void PentagonOpenGLScene::drawBackground(QPainter* painter, const QRectF& rect)
+{
+    viewWidth = int(rect.width());
+    viewHeight = int(rect.height());
     quillon::GlPlotFrame frame(painter);
     frame.clearToWhite();
     frame.lookAtOrthographic(xMin, xMax, yMin, yMax);
+    if (!selectionMode && geometry.isUserMode() && geometry.getUserPointCount() < 5) {
+        drawEnteredPoints();
+    } else {
+        drawHistory();
+    }
+}
+
+// Only the points: no lines join them while a pentagon is being entered.
+void PentagonOpenGLScene::drawEnteredPoints() const
+{
+    glPointSize(float(colorSettings->pointSize));
+    glBegin(GL_POINTS);
+    const PentagonPoints& points = geometry.getCurrentPoints();
+    for (int k = 1; k <= geometry.getUserPointCount(); ++k) {
+        glColor(colorSettings->colors[size_t(k - 1)]);
+        glVertex3f(points.x(k), points.y(k), 1.0f);
+    }
+    glEnd();
+    glColor(colorSettings->colors[5]);
+    glLineWidth(float(colorSettings->lineWidth));
+}
+
+// Every drawn pentagon with its five edges and five diagonals: the initial one in its colour,
+// the newest in the current colour, older ones in greys that darken with age.
+void PentagonOpenGLScene::drawHistory() const
+{
+    const std::vector<PentagonPoints> valid = geometry.validPentagons();
+    const int count = int(geometry.getHistory().size());
+    glLineWidth(float(colorSettings->lineWidth));
+    glBegin(GL_LINES);
+    for (int n = 0; n < int(valid.size()); ++n) {
+        if (selectionMode && (size_t(n) >= selected.size() || !selected[size_t(n)])) {
+            continue;
+        }
+        const int age = count - n - 1;
+        if (n == 0) {
+            glColor(colorSettings->colors[5]);
+        } else if (age == 0) {
+            glColor(colorSettings->colors[6]);
+        } else {
+            const float grey = float(greyForAge(age)) / 255.0f;
+            glColor3f(grey, grey, grey);
+        }
+        const PentagonPoints& pentagon = valid[size_t(n)];
+        for (int i = 1; i <= 5; ++i) {
+            for (int j = 1; j <= 5; ++j) {
+                glVertex3f(pentagon.x(i), pentagon.y(i), 0.0f);
+                glVertex3f(pentagon.x(j), pentagon.y(j), 0.0f);
+            }
+        }
+    }
+    glEnd();
+}
+
+void PentagonOpenGLScene::drawForeground(QPainter* painter, const QRectF&)
+{
+    if (pressPos.x() >= 0 && pressPos.y() >= 0) {
+        painter->setPen(Qt::black);
+        const QRectF band(pressPos, mousePos);
+        painter->drawLine(band.topLeft(), band.topRight());
+        painter->drawLine(band.topRight(), band.bottomRight());
+        painter->drawLine(band.bottomRight(), band.bottomLeft());
+        painter->drawLine(band.bottomLeft(), band.topLeft());
+    }
+    if (showXIndices) {
+        drawXLabels(painter);
+    }
+    if (showYIndices) {
+        quillon::drawPlotValueLabels(painter, yMin, yMax, viewHeight);
+    }
+    if (showXAxis) {
+        drawVerticalGridLines(painter);
+    }
+    if (showYAxis) {
+        drawHorizontalGridLines(painter);
+    }
+    if (geometry.hasFailed()) {
+        drawErrorMessage(painter);
+    }
+}
+
+// Along the bottom, each label turned by 90 degrees about its anchor.
+void PentagonOpenGLScene::drawXLabels(QPainter* painter) const
+{
+    painter->setFont(quillon::plotOverlayFont());
+    painter->setPen(Qt::darkMagenta);
+    for (int i = 0; i < quillon::kPlotGridLines; ++i) {
+        const float value = quillon::plotGridValue(i, xMin, xMax);
+        const float x = float(viewWidth) * (value - xMin) / (xMax - xMin);
+        painter->save();
+        painter->translate(QPointF(x, viewHeight));
+        painter->rotate(-90);
+        painter->drawText(QPointF(0, 0), labelText(value));
+        painter->restore();
+    }
+}
+
+// Each line runs through the middle of its turned label.
+void PentagonOpenGLScene::drawVerticalGridLines(QPainter* painter) const
+{
+    painter->setPen(Qt::darkMagenta);
+    const QFontMetrics metrics(quillon::plotOverlayFont());
+    for (int i = 0; i < quillon::kPlotGridLines; ++i) {
+        const float value = quillon::plotGridValue(i, xMin, xMax);
+        const float x = float(viewWidth) * (value - xMin) / (xMax - xMin) +
+                        float(metrics.horizontalAdvance(labelText(value))) / 2.0f;
+        painter->drawLine(QPointF(x, 0), QPointF(x, viewHeight));
+    }
+}
+
+void PentagonOpenGLScene::drawHorizontalGridLines(QPainter* painter) const
+{
+    painter->setPen(Qt::darkMagenta);
+    for (int i = 0; i < quillon::kPlotGridLines; ++i) {
+        const float value = quillon::plotGridValue(i, yMin, yMax);
+        const float y = float(viewHeight) * (yMax - value) / (yMax - yMin);
+        painter->drawLine(QPointF(0, y), QPointF(viewWidth, y));
+    }
+}
+
+// The failed step's message in red, 20 point bold "times", centred in the plot.
+void PentagonOpenGLScene::drawErrorMessage(QPainter* painter) const
+{
+    QFont font(QStringLiteral("times"), 20);
+    font.setWeight(QFont::Bold);
+    painter->setFont(font);
+    painter->setPen(QColor(255, 0, 0));
+    // The message without its line break (its blank before the break stays).
+    const QString message =
+        QString::fromLatin1(pentagonStatusMessage(geometry.lastStatus())).chopped(1);
+    const QFontMetrics metrics(font);
+    const float x = (float(viewWidth) - float(metrics.horizontalAdvance(message))) / 2.0f;
+    painter->drawText(QPointF(x, float(viewHeight) / 2.0f), message);
+}
+
+QString PentagonOpenGLScene::loadConfiguration(const QString& path)
+{
+    std::string text;
+    if (const QString failure = quillon::readConfigurationFile(path, text); !failure.isEmpty()) {
+        return failure;
+    }
+    readPentagonConfiguration(text, *colorSettings);
+    repaint();
+    return QString();
+}
+
+QString PentagonOpenGLScene::saveConfiguration(const QString& path) const
+{
+    return quillon::writeWholeFile(path, pentagonConfigurationText(*colorSettings));
+}
+
+QString PentagonOpenGLScene::saveHistoryText(const QString& path) const
+{
+    return quillon::writeWholeFile(path, pentagonHistoryText(geometry));
 }

@@ -1,22 +1,125 @@
 #pragma once
 
 #include "common/gui/OpenGLPlotScene.h"
+#include "pentagon/engine/PentagonEngine.h"
+#include "pentagon/engine/PentagonFiles.h"
+#include "pentagon/gui/PentagonPanel.h"
 
-// The pentagon tab's plot: the history of pentagons produced by In and Out operations,
-// drawn with OpenGL in the data range xMin..xMax by yMin..yMax.
+#include <QPointF>
+#include <QString>
+#include <vector>
+
+class QLineEdit;
+
+// The pentagon tab's plot: every valid pentagon of the In/Out history, drawn with OpenGL in
+// colours that fade with age, the points of a pentagon being entered by mouse, value labels,
+// grid lines and the failed step's message. It owns the engine and the tab's modes (animated
+// example, built-in example, manual entry) and runs the animation on the main window's timer.
 class PentagonOpenGLScene : public quillon::OpenGLPlotScene
 {
     Q_OBJECT
 
 public:
-    explicit PentagonOpenGLScene(QObject* parent = nullptr);
+    PentagonOpenGLScene(const PentagonPanel& panel, PentagonColorSettings* colorSettings,
+                        QObject* parent = nullptr);
+
+    const PentagonEngine& engine() const { return geometry; }
+    PentagonRange range() const { return {xMin, xMax, yMin, yMax}; }
+    bool isAnimating() const { return animating; }
+    int getAnimationStep() const { return animationStep; }
+    int getOrder() const { return order; }
+    int zoomDepth() const { return int(zoomStack.size()); }
+    bool showsSelection() const { return selectionMode; }
+
+    // The focus window's four fields, read by updateXmin() .. XYapply().
+    void setFocusFields(QLineEdit* xMinField, QLineEdit* xMaxField, QLineEdit* yMinField,
+                        QLineEdit* yMaxField);
+
+    // The file routines: each returns a one-line reason when it failed (changing nothing).
+    QString loadConfiguration(const QString& path);
+    QString saveConfiguration(const QString& path) const;
+    QString saveHistoryText(const QString& path) const;
+
+public slots:
+    void in();
+    void out();
+    void autoPentagon(bool on);
+    void UserPentagon(bool on);
+    void needAnimation(bool on);
+    void setSequentialOrder(bool);
+    void setAlternativeOrder(bool);
+    void updateOperationNum();
+    void regularPentagon(bool on);
+    void defaultPentagon(bool on);
+    void setEpsilon1(bool on);
+    void setEpsilon2(bool on);
+    void setEpsilon3(bool on);
+    void setEpsilon4(bool on);
+    void setEpsilon5(bool on);
+    void setEpsilon6(bool on);
+    void updateXmin();
+    void updateXmax();
+    void updateYmin();
+    void updateYmax();
+    void resetXY();
+    void XYapply();
+    void changeScaleFactor(int);
+    void resetView();
+    void resetToDefault();
+    void resetUserInput();
+    void XIndices(bool on);
+    void YIndices(bool on);
+    void XAxis(bool on);
+    void YAxis(bool on);
+    void clearHistory();
+    void runningMan();
 
 protected:
+    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override;
+    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
     void drawBackground(QPainter* painter, const QRectF& rect) override;
+    void drawForeground(QPainter* painter, const QRectF& rect) override;
 
 private:
+    void reset();
+    void showCounts();
+    void setRange(const PentagonRange& range);
+    void setEpsilonPreset(int index, bool on);
+    std::vector<PentagonPoints> drawnPentagons() const;
+    PentagonRange fittedRange() const;
+    void drawEnteredPoints() const;
+    void drawHistory() const;
+    void drawXLabels(QPainter* painter) const;
+    void drawVerticalGridLines(QPainter* painter) const;
+    void drawHorizontalGridLines(QPainter* painter) const;
+    void drawErrorMessage(QPainter* painter) const;
+    static float readField(const QLineEdit* field);
+
+    PentagonPanel panel;
+    PentagonColorSettings* colorSettings;
+    PentagonEngine geometry;
+    bool selectionMode = false;
+    std::vector<bool> selected;
     float xMin = -0.055f;
     float xMax = 1.155f;
     float yMin = -0.055f;
     float yMax = 1.155f;
+    QLineEdit* focusFields[4] = {};
+    bool showXIndices = false;
+    bool showYIndices = false;
+    bool showXAxis = false;
+    bool showYAxis = false;
+    bool animating = true;
+    float scaleX = 1.0f;
+    float scaleY = 1.0f;
+    int viewWidth = 0;
+    int viewHeight = 0;
+    QPointF mousePos{0, 0};
+    QPointF pressPos{-1, -1};
+    std::vector<PentagonRange> zoomStack;
+    int animationStep = 0;
+    int operationNum = 10;
+    int order = 0;
+    bool firstAnimation = true;
 };

@@ -105,14 +105,10 @@ void AssoTabTest::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     window = std::make_unique<MainWindow>();
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    child<QTabWidget>("tabWidget")->setCurrentIndex(2);
-    view = child<QWidget>("associativelaw_VisWindow")->findChild<GraphicsView*>();
+    view = qobject_cast<GraphicsView*>(showPlotTab(*window, 2, "associativelaw_VisWindow"));
+    QVERIFY(view != nullptr);
     scene = qobject_cast<AssoOpenGLScene*>(view->scene());
     QVERIFY(scene != nullptr);
-    QVERIFY(QTest::qWaitForWindowExposed(view));
-    QTRY_VERIFY(view->scene()->sceneRect().width() > 100);
 }
 
 void AssoTabTest::cleanup()
@@ -206,7 +202,7 @@ void AssoTabTest::speedLevelsSetTheTimerAndButtons()
 {
     auto* faster = child<QPushButton>("associativelaw_acceleration");
     auto* slower = child<QPushButton>("associativelaw_deceleration");
-    auto* timer = child<QWidget>("associativelaw_win")->window()->findChild<QTimer*>();
+    auto* timer = child<QTimer>("associativelaw_timer");
     QVERIFY(timer != nullptr);
     QCOMPARE(timer->interval(), 400);
     const int expected[] = {200, 133, 100, 80};

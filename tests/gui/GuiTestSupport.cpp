@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QOpenGLWidget>
+#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
@@ -112,6 +113,22 @@ bool chooseFileThroughMenu(QMainWindow& window, const QString& entry, const QStr
     });
     action->trigger();
     return true;
+}
+
+QGraphicsView* showPlotTab(QMainWindow& window, int tab, const char* placeholder)
+{
+    window.show();
+    if (!QTest::qWaitForWindowExposed(&window)) {
+        return nullptr;
+    }
+    window.findChild<QTabWidget*>(QStringLiteral("tabWidget"))->setCurrentIndex(tab);
+    auto* view =
+        window.findChild<QWidget*>(QString::fromLatin1(placeholder))->findChild<QGraphicsView*>();
+    if (view == nullptr || !QTest::qWaitForWindowExposed(view)) {
+        return nullptr;
+    }
+    const bool laidOut = QTest::qWaitFor([view] { return view->sceneRect().width() > 100; });
+    return laidOut ? view : nullptr;
 }
 
 QImage grabPlotFrame(QGraphicsView* view)

@@ -42,5 +42,10 @@ void retype(QLineEdit* edit, const QString& text);
 // missing or disabled.
 bool chooseFileThroughMenu(QMainWindow& window, const QString& entry, const QString& path);
 
+// Shows the window, chooses its tab number `tab` and waits until the plot view on the page's
+// placeholder `placeholder` is exposed and laid out; returns that view, or null (after a
+// failed check) when it never was.
+QGraphicsView* showPlotTab(QMainWindow& window, int tab, const char* placeholder);
+
 // The plot view's last frame as OpenGL drew it.
 QImage grabPlotFrame(QGraphicsView* view);

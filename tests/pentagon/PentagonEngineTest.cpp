@@ -193,6 +193,32 @@ TEST(PentagonEngine, ElevenInsOfTheDefaultPentagonEndInAFailure)
     EXPECT_EQ(engine.getNumIns(), 0);
 }
 
+// Other epsilons fail earlier or later, and with epsilon 0.2 with another code: after 13 Ins
+// every point lies on y = x, and the 14th In crosses a line with itself (0/0, code 2).
+TEST(PentagonEngine, RepeatedInsFailByEpsilon)
+{
+    const struct {
+        float epsilon;
+        int failingIn;
+        int status;
+    } cases[] = {{0.2f, 14, StatusNan},
+                 {0.05f, 9, StatusNotPentagon},
+                 {0.01f, 7, StatusNotPentagon},
+                 {0.5f, 17, StatusNotPentagon}};
+    for (const auto& expected : cases) {
+        PentagonEngine engine;
+        engine.setEpsilon(expected.epsilon);
+        engine.resetHistory();
+        int ins = 0;
+        while (!engine.hasFailed() && ins < 40) {
+            engine.in();
+            ++ins;
+        }
+        EXPECT_EQ(ins, expected.failingIn) << expected.epsilon;
+        EXPECT_EQ(engine.lastStatus(), expected.status) << expected.epsilon;
+    }
+}
+
 // Out starts its counts from (0, 1).
 TEST(PentagonEngine, FirstOutCountsFromZeroIns)
 {

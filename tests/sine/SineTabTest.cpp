@@ -104,14 +104,10 @@ void SineTabTest::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     window = std::make_unique<MainWindow>();
-    window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    child<QTabWidget>("tabWidget")->setCurrentIndex(3);
-    view = child<QWidget>("sine_VisWindow")->findChild<GraphicsView*>();
+    view = qobject_cast<GraphicsView*>(showPlotTab(*window, 3, "sine_VisWindow"));
+    QVERIFY(view != nullptr);
     scene = qobject_cast<SineOpenGLScene*>(view->scene());
     QVERIFY(scene != nullptr);
-    QVERIFY(QTest::qWaitForWindowExposed(view));
-    QTRY_VERIFY(view->scene()->sceneRect().width() > 100);
     // The tests tick the animation themselves; leaving the first tab paused this one.
     child<QTimer>("sine_timer")->stop();
     scene->setPaused(false);

@@ -1,0 +1,391 @@
+#include "app/GraphicsView.h"
+#include "app/MainWindow.h"
+#include "pentagon/gui/PentagonOpenGLScene.h"
+#include "tests/gui/GuiTestSupport.h"
+#include "tests/gui/PaintedTextRecorder.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTemporaryDir>
+#include <QTextBrowser>
+#include <QTimer>
+#include <QtTest>
+
+namespace
+{
+
+QString fileText(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll())
+                                          : QStringLiteral("<none>");
+}
+
+QString golden(const char* name)
+{
+    return fileText(QStringLiteral(QUILLON_TEST_DATA_DIR "/") + QString::fromLatin1(name));
+}
+
+const QColor kInitialRed(255, 0, 0);
+const QColor kNewestBlue(0, 0, 255);
+
+} // namespace
+
+class PentagonTabTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void panelStartsAsTheAnimatedExample();
+    void animationRunsTenStepsThenStops();
+    void alternatingOrderTakesTurns();
+    void toleranceModeShowsTheEpsilonsAndTheButtonsStep();
+    void defaultShapeOfTheAnimationUsesItsOwnEpsilon();
+    void leavingToleranceModeEndsInTheNewMode();
+    void failedStepShowsItsMessageAndRefusesMore();
+    void manualEntryShowsPointsThenThePentagon();
+    void dragZoomsAndRightClickRefits();
+    void labelsAndGridLines();
+    void filesThroughTheDialogs();
+    void helpWindowsShowTheirTexts();
+
+private:
+    template <typename T> T* child(const char* name) const
+    {
+        return window->findChild<T*>(QString::fromLatin1(name));
+    }
+    void click(const char* button);
+    void choose(const char* radio);
+    QImage plot();
+    QStringList paintedTexts() const;
+
+    std::unique_ptr<MainWindow> window;
+    std::unique_ptr<QTemporaryDir> folder;
+    PentagonOpenGLScene* scene = nullptr;
+    GraphicsView* view = nullptr;
+};
+
+void PentagonTabTest::init()
+{
+    folder = std::make_unique<QTemporaryDir>();
+    window = std::make_unique<MainWindow>();
+    view = qobject_cast<GraphicsView*>(showPlotTab(*window, 1, "pentagon_VisWindow"));
+    QVERIFY(view != nullptr);
+    scene = qobject_cast<PentagonOpenGLScene*>(view->scene());
+    QVERIFY(scene != nullptr);
+    // The tests tick the animation themselves.
+    child<QTimer>("pentagon_timer")->stop();
+}
+
+void PentagonTabTest::cleanup()
+{
+    window.reset();
+    folder.reset();
+}
+
+void PentagonTabTest::click(const char* button)
+{
+    QTest::mouseClick(child<QPushButton>(button), Qt::LeftButton);
+}
+
+void PentagonTabTest::choose(const char* radio)
+{
+    clickIndicator(child<QRadioButton>(radio));
+}
+
+QImage PentagonTabTest::plot()
+{
+    scene->repaint();
+    return grabPlotFrame(view).convertToFormat(QImage::Format_RGB32);
+}
+
+QStringList PentagonTabTest::paintedTexts() const
+{
+    QStringList texts;
+    for (const PaintedText& painted : foregroundTexts(scene, view->size())) {
+        texts << painted.text;
+    }
+    return texts;
+}
+
+void PentagonTabTest::panelStartsAsTheAnimatedExample()
+{
+    QVERIFY(child<QRadioButton>("pentagon_animateInput")->isChecked());
+    QVERIFY(child<QRadioButton>("pentagon_animate_default")->isChecked());
+    QVERIFY(child<QRadioButton>("pentagon_sequentialOrder")->isChecked());
+    QVERIFY(child<QRadioButton>("pentagon_epsilon4")->isChecked());
+    QVERIFY(child<QGroupBox>("pentagon_g_epsilon")->isHidden());
+    QVERIFY(child<QGroupBox>("pentagon_g_animation_count")->isVisible());
+    QCOMPARE(child<QLabel>("pentagon_operationNum_label")->text(),
+             QStringLiteral("# of operations: 10"));
+    QCOMPARE(child<QPushButton>("pentagon_Default")->text(), QStringLiteral("Start"));
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("0"));
+    const QStringList epsilons = {"0.025", "0.05", "0.075", "0.1", "0.125", "0.15"};
+    for (int i = 0; i < 6; ++i) {
+        QCOMPARE(window->findChild<QRadioButton*>(QStringLiteral("pentagon_epsilon%1").arg(i + 1))
+                     ->text(),
+                 epsilons[i]);
+    }
+    // The Default pentagon with epsilon 0.1, fitted: the view spans -0.055 .. 1.155.
+    QCOMPARE(scene->engine().getEpsilon(), 0.1f);
+    QVERIFY(qAbs(scene->range().xMin + 0.055f) < 1e-6f);
+    QVERIFY(qAbs(scene->range().yMax - 1.155f) < 1e-6f);
+    // The only pentagon is the initial one, in its red.
+    const QImage frame = plot();
+    QVERIFY(hasColor(frame, kInitialRed));
+    QVERIFY(!hasColor(frame, kNewestBlue));
+}
+
+void PentagonTabTest::animationRunsTenStepsThenStops()
+{
+    // The window opens on another tab, which pauses this one: nothing moves before Start.
+    scene->runningMan();
+    QCOMPARE(scene->engine().getNumIns(), 0);
+    click("pentagon_Default");
+    for (int tick = 0; tick < 10; ++tick) {
+        scene->runningMan();
+    }
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("5"));
+    QCOMPARE(child<QLabel>("pentagon_Num_out")->text(), QStringLiteral("5"));
+    QCOMPARE(scene->engine().getOperationKinds(),
+             (std::vector<bool>{false, false, false, false, false, true, true, true, true, true}));
+    scene->runningMan();
+    scene->runningMan();
+    QCOMPARE(scene->engine().getHistory().size(), 11u);
+    // The initial pentagon in red, the newest in blue, the ones between in greys.
+    const QImage frame = plot();
+    QVERIFY(hasColor(frame, kInitialRed));
+    QVERIFY(hasColor(frame, kNewestBlue));
+    QVERIFY(hasColor(frame, QColor(8, 8, 8)));
+    QVERIFY(hasColor(frame, QColor(72, 72, 72)));
+    // Pressed again, the button restarts the run and says so.
+    click("pentagon_Default");
+    QCOMPARE(child<QPushButton>("pentagon_Default")->text(), QStringLiteral("Restart"));
+    QCOMPARE(scene->engine().getHistory().size(), 1u);
+    QCOMPARE(scene->getAnimationStep(), 0);
+    scene->runningMan();
+    QCOMPARE(scene->engine().getNumIns(), 1);
+}
+
+void PentagonTabTest::alternatingOrderTakesTurns()
+{
+    choose("pentagon_alternativeOrder");
+    QCOMPARE(scene->getOrder(), 1);
+    click("pentagon_Default");
+    for (int tick = 0; tick < 12; ++tick) {
+        scene->runningMan();
+    }
+    QCOMPARE(scene->engine().getOperationKinds(),
+             (std::vector<bool>{false, true, false, true, false, true, false, true, false, true}));
+}
+
+void PentagonTabTest::toleranceModeShowsTheEpsilonsAndTheButtonsStep()
+{
+    choose("pentagon_autoInput");
+    QVERIFY(!scene->isAnimating());
+    QVERIFY(child<QGroupBox>("pentagon_g_epsilon")->isVisible());
+    QVERIFY(child<QGroupBox>("pentagon_g_animation_count")->isHidden());
+    QVERIFY(child<QGroupBox>("pentagon_g_animation_pentagon")->isHidden());
+    QCOMPARE(child<QPushButton>("pentagon_Default")->text(), QStringLiteral("Reset"));
+    // The order is only stored while nothing animates.
+    choose("pentagon_alternativeOrder");
+    QCOMPARE(scene->getOrder(), 1);
+    choose("pentagon_epsilon2");
+    QCOMPARE(scene->engine().getEpsilon(), 0.05f);
+    QCOMPARE(scene->engine().getInitialPoints().y(3), 1.05f);
+    click("pentagon_In");
+    click("pentagon_In");
+    click("pentagon_Out");
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("2"));
+    QCOMPARE(child<QLabel>("pentagon_Num_out")->text(), QStringLiteral("1"));
+    click("pentagon_clean");
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("0"));
+    QCOMPARE(scene->engine().getHistory().size(), 1u);
+    QCOMPARE(scene->engine().getInitialPoints().y(3), 1.05f);
+}
+
+void PentagonTabTest::defaultShapeOfTheAnimationUsesItsOwnEpsilon()
+{
+    choose("pentagon_animate_regular");
+    QVERIFY(scene->engine().isRegular());
+    QCOMPARE(scene->engine().getInitialPoints().x(1), 1.0f);
+    choose("pentagon_animate_default");
+    QVERIFY(!scene->engine().isRegular());
+    QCOMPARE(scene->engine().getEpsilon(), 0.175f);
+    QCOMPARE(scene->engine().getInitialPoints().y(3), float(1.0 + double(0.175f)));
+    QVERIFY(child<QRadioButton>("pentagon_epsilon4")->isChecked());
+}
+
+void PentagonTabTest::leavingToleranceModeEndsInTheNewMode()
+{
+    choose("pentagon_autoInput");
+    choose("pentagon_userInput");
+    QVERIFY(scene->engine().isUserMode());
+    QVERIFY(!scene->isAnimating());
+    QVERIFY(child<QGroupBox>("pentagon_g_epsilon")->isHidden());
+    QVERIFY(child<QGroupBox>("pentagon_g_animation_count")->isHidden());
+    QCOMPARE(child<QPushButton>("pentagon_Default")->text(), QStringLiteral("Reset"));
+    choose("pentagon_animateInput");
+    QVERIFY(scene->isAnimating());
+    QVERIFY(!scene->engine().isUserMode());
+    QCOMPARE(child<QPushButton>("pentagon_Default")->text(), QStringLiteral("Restart"));
+}
+
+// Eleven Ins of the Default pentagon (epsilon 0.1): the eleventh fails, its message is drawn
+// in red over the ten valid pentagons, and In and Out change nothing more until a reset.
+void PentagonTabTest::failedStepShowsItsMessageAndRefusesMore()
+{
+    choose("pentagon_autoInput");
+    for (int i = 0; i < 11; ++i) {
+        click("pentagon_In");
+    }
+    QCOMPARE(scene->engine().lastStatus(), int(StatusNotPentagon));
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("11"));
+    click("pentagon_In");
+    click("pentagon_Out");
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("11"));
+    QCOMPARE(child<QLabel>("pentagon_Num_out")->text(), QStringLiteral("0"));
+    QCOMPARE(paintedTexts(),
+             QStringList{QStringLiteral("Error! New five points can not form a pentagon! ")});
+    // The valid pentagons are still drawn: the initial one in red, the first In's nine steps
+    // older than the newest in grey 72 (9 x 0.0625 x 128).
+    const QImage frame = plot();
+    QVERIFY(hasColor(frame, kInitialRed));
+    QVERIFY(hasColor(frame, QColor(72, 72, 72)));
+    click("pentagon_Default");
+    QVERIFY(!scene->engine().hasFailed());
+    QVERIFY(paintedTexts().isEmpty());
+}
+
+// Clicks enter points (the view showing -1 .. 1); no lines join them until the fifth, and a
+// click that would bend the polygon inwards is ignored.
+void PentagonTabTest::manualEntryShowsPointsThenThePentagon()
+{
+    choose("pentagon_userInput");
+    const QSize size = view->viewport()->size();
+    const auto at = [size](float x, float y) {
+        return QPoint(int(float(size.width()) * (x + 1.0f) / 2.0f),
+                      int(float(size.height()) * (1.0f - y) / 2.0f));
+    };
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(-0.5f, -0.5f));
+    QCOMPARE(scene->engine().getUserPointCount(), 1);
+    QImage frame = plot();
+    QVERIFY(hasColor(frame, kInitialRed));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.5f, -0.5f));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.5f, 0.5f));
+    // Inside the triangle so far: refused.
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.2f, -0.2f));
+    QCOMPARE(scene->engine().getUserPointCount(), 3);
+    frame = plot();
+    // Points 1 to 3 in red, orange and green; no Point 4 blue, no line between the points.
+    QVERIFY(hasColor(frame, QColor(255, 165, 0)));
+    QVERIFY(hasColor(frame, QColor(0, 255, 0)));
+    QVERIFY(!hasColor(frame, kNewestBlue));
+    const QPoint middle = (at(-0.5f, -0.5f) + at(0.5f, -0.5f)) / 2;
+    QCOMPARE(QColor(frame.pixel(middle)), QColor(Qt::white));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.0f, 0.8f));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(-0.5f, 0.5f));
+    QCOMPARE(scene->engine().getUserPointCount(), 5);
+    QCOMPARE(scene->engine().getHistory().size(), 1u);
+    click("pentagon_In");
+    QCOMPARE(scene->engine().getHistory().size(), 2u);
+    QVERIFY(hasColor(plot(), kNewestBlue));
+}
+
+void PentagonTabTest::dragZoomsAndRightClickRefits()
+{
+    const PentagonRange fitted = scene->range();
+    const QSize size = view->viewport()->size();
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, QPoint(0, size.height()));
+    QTest::mouseMove(view->viewport(), QPoint(size.width() / 2, size.height() / 2));
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {},
+                        QPoint(size.width() / 2, size.height() / 2));
+    QCOMPARE(scene->zoomDepth(), 1);
+    // The lower left quarter of the range.
+    QCOMPARE(scene->range().xMin, fitted.xMin);
+    QCOMPARE(scene->range().yMin, fitted.yMin);
+    QVERIFY(qAbs(scene->range().xMax - (fitted.xMin + fitted.xMax) / 2) < 1e-2f);
+    QVERIFY(qAbs(scene->range().yMax - (fitted.yMin + fitted.yMax) / 2) < 1e-2f);
+    QTest::mouseClick(view->viewport(), Qt::RightButton, {}, QPoint(10, 10));
+    QCOMPARE(scene->zoomDepth(), 0);
+    // Refitted to the drawn pentagon: the same range as at the start.
+    QVERIFY(qAbs(scene->range().xMin - fitted.xMin) < 1e-6f);
+    QVERIFY(qAbs(scene->range().yMax - fitted.yMax) < 1e-6f);
+}
+
+void PentagonTabTest::labelsAndGridLines()
+{
+    QVERIFY(paintedTexts().isEmpty());
+    child<QCheckBox>("pentagon_yvalues")->click();
+    QStringList labels = paintedTexts();
+    QCOMPARE(labels.size(), 21);
+    QCOMPARE(labels.first(), QStringLiteral("-5.50e-02"));
+    QCOMPARE(labels.last(), QStringLiteral("1.15e+00"));
+    child<QCheckBox>("pentagon_xvalues")->click();
+    QCOMPARE(paintedTexts().size(), 42);
+    child<QCheckBox>("pentagon_yvalues")->click();
+    child<QCheckBox>("pentagon_xvalues")->click();
+    const QImage before = plot();
+    QVERIFY(!hasColor(before, QColor(Qt::darkMagenta)));
+    child<QCheckBox>("pentagon_yaxis")->click();
+    QVERIFY(hasColor(plot(), QColor(Qt::darkMagenta)));
+}
+
+void PentagonTabTest::filesThroughTheDialogs()
+{
+    choose("pentagon_autoInput");
+    for (const char* step :
+         {"pentagon_In", "pentagon_In", "pentagon_In", "pentagon_In", "pentagon_In", "pentagon_Out",
+          "pentagon_Out", "pentagon_Out", "pentagon_Out", "pentagon_Out"}) {
+        click(step);
+    }
+    const QString txt = folder->filePath(QStringLiteral("history 100%.txt"));
+    QVERIFY(chooseFileThroughMenu(*window, QStringLiteral("&Save data to a txt file ..."), txt));
+    QCOMPARE(fileText(txt), golden("default-IIIIIOOOOO.txt"));
+
+    const QString conf = folder->filePath(QStringLiteral("colours.conf"));
+    QVERIFY(
+        chooseFileThroughMenu(*window, QStringLiteral("&Save to a configuration file ..."), conf));
+    QVERIFY(fileText(conf).startsWith(QStringLiteral("Five point size 8 \nAll line widthes 1 \n")));
+    QFile edited(conf);
+    QVERIFY(edited.open(QIODevice::WriteOnly));
+    edited.write("Five point size 8 \nAll line widthes 3 \nPoint1 Color R 1 G 2 B 3\n"
+                 "Point2 Color R 255 G 165 B 0\nPoint3 Color R 0 G 255 B 0\n"
+                 "Point4 Color R 0 G 0 B 255\nPoint5 Color R 0 G 0 B 0\n"
+                 "Current Color R 0 G 200 B 0\nInitial Color R 0 G 0 B 255\n");
+    edited.close();
+    QVERIFY(chooseFileThroughMenu(*window, QStringLiteral("&Open a configuration file ..."), conf));
+    // The sixth colour is the initial pentagon's, whatever its line calls it.
+    const QImage frame = plot();
+    QVERIFY(hasColor(frame, QColor(0, 200, 0)));
+    QVERIFY(!hasColor(frame, kInitialRed));
+}
+
+void PentagonTabTest::helpWindowsShowTheirTexts()
+{
+    const std::pair<const char*, const char*> helps[] = {{"&About ...", "pentagon-about.txt"},
+                                                         {"&Help ...", "pentagon-help.txt"}};
+    for (const auto& [entry, name] : helps) {
+        QAction* action = menuBarAction(*window, QStringLiteral("&Help"), entry);
+        QVERIFY(action != nullptr && action->isEnabled());
+        action->trigger();
+        QTextBrowser* browser = nullptr;
+        for (QWidget* topLevel : QApplication::topLevelWidgets()) {
+            if (topLevel->isVisible() && topLevel->findChild<QTextBrowser*>() != nullptr) {
+                browser = topLevel->findChild<QTextBrowser*>();
+            }
+        }
+        QVERIFY(browser != nullptr);
+        QCOMPARE(browser->toPlainText(), golden(name));
+        browser->window()->close();
+    }
+}
+
+QTEST_MAIN(PentagonTabTest)
+#include "PentagonTabTest.moc"
