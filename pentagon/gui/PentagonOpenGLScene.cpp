@@ -497,8 +497,10 @@ void PentagonOpenGLScene::drawHistory() const
             glColor3f(grey, grey, grey);
         }
         const PentagonPoints& pentagon = valid[size_t(n)];
+        // Each of the ten segments once: a pair drawn the other way round, or a point joined
+        // to itself, adds no pixel of another colour.
         for (int i = 1; i <= 5; ++i) {
-            for (int j = 1; j <= 5; ++j) {
+            for (int j = i + 1; j <= 5; ++j) {
                 glVertex3f(pentagon.x(i), pentagon.y(i), 0.0f);
                 glVertex3f(pentagon.x(j), pentagon.y(j), 0.0f);
             }
