@@ -58,6 +58,13 @@ int main(int argc, char* argv[])
              QTest::qWait(4000);
              pause->click();
          }},
+        {"pentagon-tab.png",
+         [](MainWindow& w) {
+             showTab(w, PentagonTab);
+             // The animated example's ten steps (five Ins, five Outs) at 400 ms each.
+             w.findChild<QPushButton*>(QStringLiteral("pentagon_Default"))->click();
+             QTest::qWait(4600);
+         }},
         {"sine-tab.png",
          [](MainWindow& w) {
              showTab(w, SineTab);
