@@ -9,6 +9,7 @@
 #include "assoc/gui/AssoSelectionWindow.h"
 #include "assoc/gui/AssoUserMenu.h"
 #include "common/gui/TabPageArea.h"
+#include "pentagon/gui/PentagonFocusWindow.h"
 #include "pentagon/gui/PentagonHelpWindow.h"
 #include "pentagon/gui/PentagonOpenGLScene.h"
 #include "pentagon/gui/PentagonPanel.h"
@@ -105,6 +106,9 @@ void MainWindow::setUpPentagonTab()
 {
     pentagonScene =
         new PentagonOpenGLScene(PentagonPanel::find(ui->pentagon_win), &pentagonColors, this);
+    auto* focus = new PentagonFocusWindow(pentagonScene);
+    pentagonScene->setFocusWindow(focus);
+    installAuxiliaryWindow(AuxWindow::PentagonFocus, focus);
     installAuxiliaryWindow(AuxWindow::PentagonHelp, new PentagonHelpWindow(tr("About")));
     installAuxiliaryWindow(AuxWindow::PentagonUserMenu, new PentagonUserMenu(tr("Help")));
     pentagonView = attachPlotView(ui->pentagon_VisWindow, pentagonScene);

@@ -6,6 +6,7 @@
 #include "common/gui/GlPlotFrame.h"
 #include "common/gui/PlotOverlay.h"
 #include "pentagon/engine/PentagonView.h"
+#include "pentagon/gui/PentagonFocusWindow.h"
 
 #include <GL/gl.h>
 #include <QCheckBox>
@@ -59,17 +60,8 @@ PentagonOpenGLScene::PentagonOpenGLScene(const PentagonPanel& panel,
                                          PentagonColorSettings* colorSettings, QObject* parent)
     : OpenGLPlotScene(parent), panel(panel), colorSettings(colorSettings)
 {
-    setRange(geometry.fittedRange());
+    showFittedRange(geometry.fittedRange());
     selected.assign(geometry.getHistory().size(), false);
-}
-
-void PentagonOpenGLScene::setFocusFields(QLineEdit* xMinField, QLineEdit* xMaxField,
-                                         QLineEdit* yMinField, QLineEdit* yMaxField)
-{
-    focusFields[0] = xMinField;
-    focusFields[1] = xMaxField;
-    focusFields[2] = yMinField;
-    focusFields[3] = yMaxField;
 }
 
 void PentagonOpenGLScene::setRange(const PentagonRange& range)
@@ -78,6 +70,16 @@ void PentagonOpenGLScene::setRange(const PentagonRange& range)
     xMax = range.xMax;
     yMin = range.yMin;
     yMax = range.yMax;
+}
+
+// A fitted range is shown in the focus window too (a rectangle zoom is not).
+void PentagonOpenGLScene::showFittedRange(const PentagonRange& fitted)
+{
+    setRange(fitted);
+    if (focusWindow != nullptr) {
+        focusWindow->showRange(fitted);
+        focusWindow->update();
+    }
 }
 
 void PentagonOpenGLScene::showCounts()
@@ -90,7 +92,7 @@ void PentagonOpenGLScene::showCounts()
 void PentagonOpenGLScene::reset()
 {
     geometry.resetHistory();
-    setRange(geometry.fittedRange());
+    showFittedRange(geometry.fittedRange());
     selected.assign(geometry.getHistory().size(), false);
     showCounts();
     repaint();
@@ -98,18 +100,24 @@ void PentagonOpenGLScene::reset()
 
 void PentagonOpenGLScene::in()
 {
-    geometry.in();
-    setRange(geometry.fittedRange());
-    selected.resize(geometry.getHistory().size(), false);
-    showCounts();
-    repaint();
+    step(&PentagonEngine::in);
 }
 
 void PentagonOpenGLScene::out()
 {
-    geometry.out();
-    setRange(geometry.fittedRange());
-    selected.resize(geometry.getHistory().size(), false);
+    step(&PentagonEngine::out);
+}
+
+// A step that succeeds refits the range to the grown history; one that fails or is refused
+// leaves the range (and any zoom) as it was.
+void PentagonOpenGLScene::step(void (PentagonEngine::*operation)())
+{
+    const size_t before = geometry.getHistory().size();
+    (geometry.*operation)();
+    if (geometry.getHistory().size() != before) {
+        showFittedRange(geometry.fittedRange());
+        selected.resize(geometry.getHistory().size(), false);
+    }
     showCounts();
     repaint();
 }
@@ -240,44 +248,38 @@ void PentagonOpenGLScene::setEpsilon6(bool on)
     setEpsilonPreset(5, on);
 }
 
-// A field's text as displayed, read as a float; text that does not convert reads as 0.
-float PentagonOpenGLScene::readField(const QLineEdit* field)
+// A focus field's text as displayed, read as a float; text that does not convert reads as 0.
+void PentagonOpenGLScene::updateBound(float& bound, int field)
 {
-    return field->text().toFloat();
+    if (focusWindow == nullptr) {
+        return;
+    }
+    const QLineEdit* edits[] = {focusWindow->xMinEdit(), focusWindow->xMaxEdit(),
+                                focusWindow->yMinEdit(), focusWindow->yMaxEdit()};
+    bound = edits[field]->text().toFloat();
+    repaint();
 }
 
 void PentagonOpenGLScene::updateXmin()
 {
-    if (focusFields[0] != nullptr) {
-        xMin = readField(focusFields[0]);
-        repaint();
-    }
+    updateBound(xMin, 0);
 }
 void PentagonOpenGLScene::updateXmax()
 {
-    if (focusFields[1] != nullptr) {
-        xMax = readField(focusFields[1]);
-        repaint();
-    }
+    updateBound(xMax, 1);
 }
 void PentagonOpenGLScene::updateYmin()
 {
-    if (focusFields[2] != nullptr) {
-        yMin = readField(focusFields[2]);
-        repaint();
-    }
+    updateBound(yMin, 2);
 }
 void PentagonOpenGLScene::updateYmax()
 {
-    if (focusFields[3] != nullptr) {
-        yMax = readField(focusFields[3]);
-        repaint();
-    }
+    updateBound(yMax, 3);
 }
 
 void PentagonOpenGLScene::resetXY()
 {
-    setRange(fittedRange());
+    showFittedRange(fittedRange());
     repaint();
 }
 
@@ -339,7 +341,7 @@ void PentagonOpenGLScene::YAxis(bool on)
 void PentagonOpenGLScene::clearHistory()
 {
     geometry.clearHistory();
-    setRange(geometry.fittedRange());
+    showFittedRange(geometry.fittedRange());
     selected.assign(geometry.getHistory().size(), false);
     showCounts();
     repaint();
@@ -409,7 +411,7 @@ void PentagonOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
             const float y = ((h * 0.5f - float(event->scenePos().y())) * 2.0f) / h;
             geometry.addManualPoint(x, y);
             if (geometry.getUserPointCount() == 5) {
-                setRange(geometry.fittedRange());
+                showFittedRange(geometry.fittedRange());
                 selected.assign(geometry.getHistory().size(), false);
             }
             pressPos = QPointF(-1, -1);
@@ -440,7 +442,11 @@ void PentagonOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
         if (!zoomStack.empty()) {
             zoomStack.pop_back();
         }
-        setRange(zoomStack.empty() ? fittedRange() : zoomStack.back());
+        if (zoomStack.empty()) {
+            showFittedRange(fittedRange());
+        } else {
+            setRange(zoomStack.back());
+        }
     }
     event->accept();
     repaint();

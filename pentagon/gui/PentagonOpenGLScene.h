@@ -9,6 +9,7 @@
 #include <QString>
 #include <vector>
 
+class PentagonFocusWindow;
 class QLineEdit;
 
 // The pentagon tab's plot: every valid pentagon of the In/Out history, drawn with OpenGL in
@@ -31,9 +32,9 @@ public:
     int zoomDepth() const { return int(zoomStack.size()); }
     bool showsSelection() const { return selectionMode; }
 
-    // The focus window's four fields, read by updateXmin() .. XYapply().
-    void setFocusFields(QLineEdit* xMinField, QLineEdit* xMaxField, QLineEdit* yMinField,
-                        QLineEdit* yMaxField);
+    // The "Region focus" window, whose fields updateXmin() .. XYapply() read and which shows
+    // the range whenever it is fitted.
+    void setFocusWindow(PentagonFocusWindow* window) { focusWindow = window; }
 
     // The file routines: each returns a one-line reason when it failed (changing nothing).
     QString loadConfiguration(const QString& path);
@@ -83,8 +84,11 @@ protected:
 
 private:
     void reset();
+    void step(void (PentagonEngine::*operation)());
     void showCounts();
     void setRange(const PentagonRange& range);
+    void showFittedRange(const PentagonRange& fitted);
+    void updateBound(float& bound, int field);
     void setEpsilonPreset(int index, bool on);
     std::vector<PentagonPoints> drawnPentagons() const;
     PentagonRange fittedRange() const;
@@ -94,7 +98,6 @@ private:
     void drawVerticalGridLines(QPainter* painter) const;
     void drawHorizontalGridLines(QPainter* painter) const;
     void drawErrorMessage(QPainter* painter) const;
-    static float readField(const QLineEdit* field);
 
     PentagonPanel panel;
     PentagonColorSettings* colorSettings;
@@ -105,7 +108,7 @@ private:
     float xMax = 1.155f;
     float yMin = -0.055f;
     float yMax = 1.155f;
-    QLineEdit* focusFields[4] = {};
+    PentagonFocusWindow* focusWindow = nullptr;
     bool showXIndices = false;
     bool showYIndices = false;
     bool showXAxis = false;

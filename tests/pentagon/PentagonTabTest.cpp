@@ -1,5 +1,6 @@
 #include "app/GraphicsView.h"
 #include "app/MainWindow.h"
+#include "pentagon/gui/PentagonFocusWindow.h"
 #include "pentagon/gui/PentagonOpenGLScene.h"
 #include "tests/gui/GuiTestSupport.h"
 #include "tests/gui/PaintedTextRecorder.h"
@@ -7,6 +8,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -52,6 +54,7 @@ private slots:
     void manualEntryShowsPointsThenThePentagon();
     void dragZoomsAndRightClickRefits();
     void labelsAndGridLines();
+    void focusWindowShowsAndSetsTheRange();
     void filesThroughTheDialogs();
     void helpWindowsShowTheirTexts();
 
@@ -253,6 +256,15 @@ void PentagonTabTest::failedStepShowsItsMessageAndRefusesMore()
     QCOMPARE(child<QLabel>("pentagon_Num_out")->text(), QStringLiteral("0"));
     QCOMPARE(paintedTexts(),
              QStringList{QStringLiteral("Error! New five points can not form a pentagon! ")});
+    // A refused step leaves a zoomed view as it is.
+    const QSize size = view->viewport()->size();
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, QPoint(0, size.height()));
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {},
+                        QPoint(size.width() / 2, size.height() / 2));
+    const PentagonRange zoomed = scene->range();
+    click("pentagon_In");
+    QCOMPARE(scene->range().xMax, zoomed.xMax);
+    QTest::mouseClick(view->viewport(), Qt::RightButton, {}, QPoint(10, 10));
     // The valid pentagons are still drawn: the initial one in red, the first In's nine steps
     // older than the newest in grey 72 (9 x 0.0625 x 128).
     const QImage frame = plot();
@@ -335,6 +347,53 @@ void PentagonTabTest::labelsAndGridLines()
     QVERIFY(!hasColor(before, QColor(Qt::darkMagenta)));
     child<QCheckBox>("pentagon_yaxis")->click();
     QVERIFY(hasColor(plot(), QColor(Qt::darkMagenta)));
+}
+
+// The fields show "-1.0" until the range is first fitted, then the fitted range with "%f";
+// a rectangle zoom leaves them alone, Reset refits and shows the range again, and a field that
+// holds no number sets its bound to 0.
+void PentagonTabTest::focusWindowShowsAndSetsTheRange()
+{
+    auto* focus = qobject_cast<PentagonFocusWindow*>(
+        popMenuWindow(*window, QStringLiteral("&Tools"), QStringLiteral("&Focus regions ..."),
+                      QStringLiteral("Region focus")));
+    QVERIFY(focus != nullptr);
+    QCOMPARE(focus->xMinEdit()->text(), QStringLiteral("-1.0"));
+    choose("pentagon_autoInput");
+    const PentagonRange fitted = scene->range();
+    QCOMPARE(focus->yMaxEdit()->text(), QStringLiteral("1.155000"));
+    QCOMPARE(focus->xMinEdit()->text(), QStringLiteral("-0.055000"));
+
+    const QSize size = view->viewport()->size();
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, QPoint(0, size.height()));
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {},
+                        QPoint(size.width() / 2, size.height() / 2));
+    QVERIFY(scene->range().xMax < fitted.xMax);
+    QCOMPARE(focus->xMaxEdit()->text(), QStringLiteral("1.155000"));
+
+    retype(focus->yMinEdit(), QStringLiteral("-0.5"));
+    QTest::keyClick(focus->yMinEdit(), Qt::Key_Return);
+    QCOMPARE(scene->range().yMin, -0.5f);
+    retype(focus->xMaxEdit(), QStringLiteral("wide"));
+    QTest::keyClick(focus->xMaxEdit(), Qt::Key_Return);
+    QCOMPARE(scene->range().xMax, 0.0f);
+
+    retype(focus->xMinEdit(), QStringLiteral("0.25"));
+    retype(focus->xMaxEdit(), QStringLiteral("0.75"));
+    for (QPushButton* button : focus->findChildren<QPushButton*>()) {
+        if (button->text() == QLatin1String("Apply")) {
+            button->click();
+        }
+    }
+    QCOMPARE(scene->range().xMin, 0.25f);
+    QCOMPARE(scene->range().xMax, 0.75f);
+    for (QPushButton* button : focus->findChildren<QPushButton*>()) {
+        if (button->text() == QLatin1String("Reset")) {
+            button->click();
+        }
+    }
+    QCOMPARE(focus->xMaxEdit()->text(), QString::asprintf("%f", double(scene->range().xMax)));
+    focus->close();
 }
 
 void PentagonTabTest::filesThroughTheDialogs()
