@@ -112,6 +112,10 @@ void PentagonOpenGLScene::out()
 // leaves the range (and any zoom) as it was.
 void PentagonOpenGLScene::step(void (PentagonEngine::*operation)())
 {
+    // While a pentagon is being entered there is nothing to step.
+    if (geometry.isUserMode() && geometry.getUserPointCount() < 5) {
+        return;
+    }
     const size_t before = geometry.getHistory().size();
     (geometry.*operation)();
     if (geometry.getHistory().size() != before) {

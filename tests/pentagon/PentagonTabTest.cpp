@@ -294,6 +294,10 @@ void PentagonTabTest::manualEntryShowsPointsThenThePentagon()
     // Inside the triangle so far: refused.
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.2f, -0.2f));
     QCOMPARE(scene->engine().getUserPointCount(), 3);
+    // In and Out wait for the fifth point.
+    click("pentagon_In");
+    QVERIFY(scene->engine().getHistory().empty());
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("0"));
     frame = plot();
     // Points 1 to 3 in red, orange and green; no Point 4 blue, no line between the points.
     QVERIFY(hasColor(frame, QColor(255, 165, 0)));
