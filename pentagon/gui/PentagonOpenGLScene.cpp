@@ -9,7 +9,6 @@
 #include "pentagon/gui/PentagonFocusWindow.h"
 
 #include <GL/gl.h>
-#include <QCheckBox>
 #include <QFontMetrics>
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
@@ -91,7 +90,14 @@ void PentagonOpenGLScene::showCounts()
 // Starts the history over and refits the range; the selection starts over with it.
 void PentagonOpenGLScene::reset()
 {
-    geometry.resetHistory();
+    startOver(&PentagonEngine::resetHistory);
+}
+
+// Either way of starting over (a new pentagon, or the same one again) refits the range and
+// shows the zeroed counts.
+void PentagonOpenGLScene::startOver(void (PentagonEngine::*restart)())
+{
+    (geometry.*restart)();
     showFittedRange(geometry.fittedRange());
     selected.assign(geometry.getHistory().size(), false);
     showCounts();
@@ -344,11 +350,7 @@ void PentagonOpenGLScene::YAxis(bool on)
 
 void PentagonOpenGLScene::clearHistory()
 {
-    geometry.clearHistory();
-    showFittedRange(geometry.fittedRange());
-    selected.assign(geometry.getHistory().size(), false);
-    showCounts();
-    repaint();
+    startOver(&PentagonEngine::clearHistory);
 }
 
 // One animation tick: five Ins then five Outs, or In and Out in turn, ten steps in all.

@@ -10,7 +10,6 @@
 #include <vector>
 
 class PentagonFocusWindow;
-class QLineEdit;
 
 // The pentagon tab's plot: every valid pentagon of the In/Out history, drawn with OpenGL in
 // colours that fade with age, the points of a pentagon being entered by mouse, value labels,
@@ -84,6 +83,7 @@ protected:
 
 private:
     void reset();
+    void startOver(void (PentagonEngine::*restart)());
     void step(void (PentagonEngine::*operation)());
     void showCounts();
     void setRange(const PentagonRange& range);
@@ -114,8 +114,6 @@ private:
     bool showXAxis = false;
     bool showYAxis = false;
     bool animating = true;
-    float scaleX = 1.0f;
-    float scaleY = 1.0f;
     int viewWidth = 0;
     int viewHeight = 0;
     QPointF mousePos{0, 0};
