@@ -1,10 +1,15 @@
 #pragma once
 
 #include "assoc/engine/AssoRecurrence.h"
+#include "common/core/ColorPresetGrid.h"
 #include "common/core/PlotXWindow.h"
 
 #include <array>
 #include <optional>
+
+// The colour map's preset grid: the first 48 presets in 8 columns and 6 rows, each one
+// twenty-second of the window high, starting 8.15 cell heights below the top.
+constexpr quillon::ColorPresetGrid kAssoColorPresetGrid{8, 6, 22.0, 8.15, 8};
 
 // What the curves show: the values, or their differences to a base order.
 struct AssoPlotContent {

@@ -1,7 +1,8 @@
 #include "assoc/gui/AssoColorMap.h"
 
-#include "assoc/engine/AssoColorPresets.h"
+#include "assoc/engine/AssoPlotGeometry.h"
 #include "assoc/gui/AssoOpenGLScene.h"
+#include "common/gui/ColorPresetPainter.h"
 #include "common/gui/GroupBoxStyle.h"
 #include "common/gui/ImageLookup.h"
 #include "common/gui/QtColor.h"
@@ -14,7 +15,6 @@
 #include <QRadioButton>
 #include <QSlider>
 #include <QVBoxLayout>
-#include <cmath>
 
 AssoColorMap::AssoColorMap(AssoOpenGLScene* scene)
     : QWidget(nullptr), scene(scene), targetGroup(new QGroupBox(tr("Select a method"), this)),
@@ -158,27 +158,16 @@ void AssoColorMap::refresh()
 void AssoColorMap::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    const int cellWidth = windowWidth / kAssoPresetColumns;
-    const int cellHeight = windowHeight / 22;
-    const int gridTop = int(std::floor(cellHeight * 8.15));
-    const auto& presets = assoColorPresets();
-    for (int row = 0; row < kAssoPresetRows; ++row) {
-        for (int column = 0; column < kAssoPresetColumns; ++column) {
-            const quillon::ColorTriple& color = presets[column + kAssoPresetColumns * row];
-            const QRect cell(column * cellWidth, gridTop + row * cellHeight, cellWidth, cellHeight);
-            painter.fillRect(cell, quillon::toQColor(color));
-            painter.setPen(Qt::black);
-            painter.drawRect(cell.adjusted(0, 0, -1, -1));
-        }
-    }
+    quillon::paintColorPresetGrid(painter, kAssoColorPresetGrid, windowWidth, windowHeight);
 }
 
 void AssoColorMap::mouseReleaseEvent(QMouseEvent* event)
 {
     const QPoint position = event->position().toPoint();
-    const int preset = assoPresetAt(position.x(), position.y(), windowWidth, windowHeight);
+    const int preset = quillon::presetAt(kAssoColorPresetGrid, position.x(), position.y(),
+                                         windowWidth, windowHeight);
     if (preset >= 0) {
-        editing = assoColorPresets()[preset];
+        editing = quillon::presetColors()[size_t(preset)];
         refresh();
         update();
     }
@@ -195,10 +184,11 @@ void AssoColorMap::resizeEvent(QResizeEvent* event)
 // The method choice above the preset grid, the sliders, preview and buttons below it.
 void AssoColorMap::layOut()
 {
-    const int cellHeight = windowHeight / 22;
+    const int cellHeight = quillon::presetCellHeight(kAssoColorPresetGrid, windowHeight);
     const int margin = 6;
     targetGroup->setGeometry(margin, margin, windowWidth - 2 * margin,
-                             int(cellHeight * 8.15) - 2 * margin);
+                             quillon::presetGridTop(kAssoColorPresetGrid, windowHeight) -
+                                 2 * margin);
     const int below = int(cellHeight * 14.6);
     const int labelWidth = 20;
     const int sliderWidth = windowWidth * 3 / 5;

@@ -40,3 +40,8 @@ PentagonRange pentagonFittedRange(const PentagonRange& current,
     const float half = std::max(box.xMax - box.xMin, box.yMax - box.yMin) * 0.5f * 1.1f;
     return {cx - half, cx + half, cy - half, cy + half};
 }
+
+int pentagonGreyForAge(int age)
+{
+    return age >= 16 ? 128 : int(float(age) * 0.0625f * 128.0f);
+}

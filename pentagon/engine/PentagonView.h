@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/core/ColorPresetGrid.h"
 #include "pentagon/engine/PentagonEngine.h"
 
 #include <vector>
@@ -14,3 +15,12 @@ PentagonRange pentagonZoomToRectangle(const PentagonRange& range, float pressX, 
 // none is drawn), made square about its centre and 10% larger.
 PentagonRange pentagonFittedRange(const PentagonRange& current,
                                   const std::vector<PentagonPoints>& drawn);
+
+// The colour map's preset grid: all 56 presets in 8 columns and 7 rows, each int(h / 17.5)
+// pixels high for a window h high, starting int(3.9 cell heights) below the top. A click right
+// of the last column (column 8) picks the first preset of the next row.
+constexpr quillon::ColorPresetGrid kPentagonColorPresetGrid{8, 7, 17.5, 3.9, 9};
+
+// The grey (all three components) of a drawn pentagon `age` steps older than the newest, for
+// ages from 1: 8, 16, ... 120, then 128 from age 16 on.
+int pentagonGreyForAge(int age);

@@ -37,12 +37,6 @@ constexpr EpsilonPreset kEpsilonPresets[6] = {
 // six the panel shows.
 constexpr float kAnimationEpsilon = 0.175f;
 
-// The grey of a pentagon `age` steps older than the newest: 8, 16, ... 120, then 128.
-int greyForAge(int age)
-{
-    return age >= 16 ? 128 : int(float(age) * 0.0625f * 128.0f);
-}
-
 void glColor(const quillon::ColorTriple& color)
 {
     glColor3f(color.redF(), color.greenF(), color.blueF());
@@ -488,7 +482,7 @@ void PentagonOpenGLScene::drawEnteredPoints() const
 }
 
 // Every drawn pentagon with its five edges and five diagonals: the initial one in its colour,
-// the newest in the current colour, older ones in greys that darken with age.
+// the newest in the current colour, older ones in greys that lighten with age.
 void PentagonOpenGLScene::drawHistory() const
 {
     const std::vector<PentagonPoints> valid = geometry.validPentagons();
@@ -505,7 +499,7 @@ void PentagonOpenGLScene::drawHistory() const
         } else if (age == 0) {
             glColor(colorSettings->colors[6]);
         } else {
-            const float grey = float(greyForAge(age)) / 255.0f;
+            const float grey = float(pentagonGreyForAge(age)) / 255.0f;
             glColor3f(grey, grey, grey);
         }
         const PentagonPoints& pentagon = valid[size_t(n)];

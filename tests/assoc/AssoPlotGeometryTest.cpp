@@ -60,3 +60,20 @@ TEST(AssoPlotGeometry, NoQualifyingNodeGivesNoRange)
     content.enabled = {false, false, false, false, false};
     EXPECT_FALSE(assoFitYRange(content, quillon::PlotXWindow{}, -1.5f, 1.5f).has_value());
 }
+
+TEST(AssoColorPresetGrid, ClicksPickTheCellUnderThem)
+{
+    // 400 x 440: cells 50 x 20, the grid starts at floor(20 * 8.15) = 163.
+    const quillon::ColorPresetGrid& grid = kAssoColorPresetGrid;
+    EXPECT_EQ(quillon::presetAt(grid, 0, 163, 400, 440), 0);
+    EXPECT_EQ(quillon::presetAt(grid, 399, 163, 400, 440), 7);
+    EXPECT_EQ(quillon::presetAt(grid, 60, 183, 400, 440), 9);
+    EXPECT_EQ(quillon::presetAt(grid, 399, 282, 400, 440), 47);
+    EXPECT_EQ(quillon::presetAt(grid, 10, 283, 400, 440), -1);
+    EXPECT_EQ(quillon::presetAt(grid, 400, 170, 400, 440), -1);
+    EXPECT_EQ(quillon::presetAt(grid, 10, 100, 400, 440), -1);
+    // Integer division truncates towards zero: just above the grid still counts as row 0.
+    EXPECT_EQ(quillon::presetAt(grid, 10, 150, 400, 440), 0);
+    // 405 wide: the five pixels right of the last column pick nothing.
+    EXPECT_EQ(quillon::presetAt(grid, 402, 170, 405, 440), -1);
+}

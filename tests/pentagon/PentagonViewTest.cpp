@@ -45,3 +45,30 @@ TEST(PentagonView, FittedRangeIsSquareAndTenPercentLarger)
     EXPECT_EQ(widened.xMin, -1.1f);
     EXPECT_EQ(widened.yMax, 1.1f);
 }
+
+TEST(PentagonView, PresetGridOfTheColorMap)
+{
+    // 443 x 490: cells 443 / 8 = 55 wide and int(490 / 17.5) = 28 high, from int(28 * 3.9) =
+    // 109 down to 109 + 7 * 28 = 305.
+    const quillon::ColorPresetGrid& grid = kPentagonColorPresetGrid;
+    EXPECT_EQ(quillon::presetAt(grid, 0, 109, 443, 490), 0);
+    EXPECT_EQ(quillon::presetAt(grid, 439, 136, 443, 490), 7);
+    EXPECT_EQ(quillon::presetAt(grid, 55, 137, 443, 490), 9);
+    EXPECT_EQ(quillon::presetAt(grid, 439, 304, 443, 490), 55);
+    EXPECT_EQ(quillon::presetAt(grid, 0, 305, 443, 490), -1);
+    // Right of the last column: the first preset of the next row, and nothing after the last.
+    EXPECT_EQ(quillon::presetAt(grid, 440, 110, 443, 490), 8);
+    EXPECT_EQ(quillon::presetAt(grid, 440, 300, 443, 490), -1);
+    // Up to one cell height above the grid counts as row 0; further up is nothing.
+    EXPECT_EQ(quillon::presetAt(grid, 0, 82, 443, 490), 0);
+    EXPECT_EQ(quillon::presetAt(grid, 0, 80, 443, 490), -1);
+}
+
+TEST(PentagonView, GreysFadeWithAgeThenStayAt128)
+{
+    EXPECT_EQ(pentagonGreyForAge(1), 8);
+    EXPECT_EQ(pentagonGreyForAge(2), 16);
+    EXPECT_EQ(pentagonGreyForAge(15), 120);
+    EXPECT_EQ(pentagonGreyForAge(16), 128);
+    EXPECT_EQ(pentagonGreyForAge(1000), 128);
+}
