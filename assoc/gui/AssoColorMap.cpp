@@ -2,27 +2,19 @@
 
 #include "assoc/engine/AssoPlotGeometry.h"
 #include "assoc/gui/AssoOpenGLScene.h"
-#include "common/gui/ColorPresetPainter.h"
 #include "common/gui/GroupBoxStyle.h"
 #include "common/gui/ImageLookup.h"
-#include "common/gui/QtColor.h"
 
 #include <QGroupBox>
-#include <QLabel>
-#include <QMouseEvent>
-#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QVBoxLayout>
 
 AssoColorMap::AssoColorMap(AssoOpenGLScene* scene)
-    : QWidget(nullptr), scene(scene), targetGroup(new QGroupBox(tr("Select a method"), this)),
-      preview(new QLabel(this)), apply(new QPushButton(tr("Apply"), this)),
-      reset(new QPushButton(tr("Reset"), this))
+    : ColorMapWindow(kAssoColorPresetGrid), scene(scene),
+      targetGroup(new QGroupBox(tr("Select a method"), this))
 {
-    setWindowTitle(tr("Color map"));
-    setFont(QFont(QStringLiteral("Arial")));
     targetGroup->setStyleSheet(quillon::groupBoxStyleSheet());
     auto* targetLayout = new QVBoxLayout(targetGroup);
     for (int k = 0; k < kAssoOrderCount; ++k) {
@@ -32,34 +24,24 @@ AssoColorMap::AssoColorMap(AssoOpenGLScene* scene)
         targets[k]->setIconSize(QSize(296, 20));
         targetLayout->addWidget(targets[k]);
     }
-    const char* channels[3] = {"R", "G", "B"};
-    for (int i = 0; i < 3; ++i) {
-        sliders[i] = new QSlider(Qt::Horizontal, this);
-        sliders[i]->setRange(0, 255);
-        sliderLabels[i] = new QLabel(QString::fromLatin1(channels[i]), this);
-    }
-    preview->setAutoFillBackground(true);
-    preview->setFrameShape(QFrame::Box);
 
     connect(targets[0], &QRadioButton::toggled, this, &AssoColorMap::targetChanged1);
     connect(targets[1], &QRadioButton::toggled, this, &AssoColorMap::targetChanged2);
     connect(targets[2], &QRadioButton::toggled, this, &AssoColorMap::targetChanged3);
     connect(targets[3], &QRadioButton::toggled, this, &AssoColorMap::targetChanged4);
     connect(targets[4], &QRadioButton::toggled, this, &AssoColorMap::targetChanged5);
-    connect(sliders[0], &QSlider::valueChanged, this, &AssoColorMap::Rchanged);
-    connect(sliders[1], &QSlider::valueChanged, this, &AssoColorMap::Gchanged);
-    connect(sliders[2], &QSlider::valueChanged, this, &AssoColorMap::Bchanged);
-    connect(apply, &QPushButton::clicked, this, &AssoColorMap::applyColorChange);
-    connect(reset, &QPushButton::clicked, this, &AssoColorMap::resetColorChange);
+    connect(redSlider(), &QSlider::valueChanged, this, &AssoColorMap::Rchanged);
+    connect(greenSlider(), &QSlider::valueChanged, this, &AssoColorMap::Gchanged);
+    connect(blueSlider(), &QSlider::valueChanged, this, &AssoColorMap::Bchanged);
+    connect(applyButton(), &QPushButton::clicked, this, &AssoColorMap::applyColorChange);
+    connect(resetButton(), &QPushButton::clicked, this, &AssoColorMap::resetColorChange);
     resize(440, 550);
     refresh();
 }
 
 void AssoColorMap::takeSceneColor(int order)
 {
-    editing = scene->colors()[order];
-    refresh();
-    update();
+    setEditingColor(scene->colors()[order]);
 }
 
 void AssoColorMap::targetChanged(int order)
@@ -104,29 +86,23 @@ void AssoColorMap::targetChanged5(bool chosen)
 
 void AssoColorMap::Rchanged(int value)
 {
-    editing.red = value;
-    refresh();
-    update();
+    setEditingChannel(0, value);
 }
 
 void AssoColorMap::Gchanged(int value)
 {
-    editing.green = value;
-    refresh();
-    update();
+    setEditingChannel(1, value);
 }
 
 void AssoColorMap::Bchanged(int value)
 {
-    editing.blue = value;
-    refresh();
-    update();
+    setEditingChannel(2, value);
 }
 
 void AssoColorMap::applyColorChange()
 {
     if (target >= 0) {
-        scene->setColor(target, editing);
+        scene->setColor(target, editingColor());
     }
 }
 
@@ -137,6 +113,7 @@ void AssoColorMap::resetColorChange()
     }
 }
 
+// The target order is whichever radio button is checked (-1 for none).
 void AssoColorMap::refresh()
 {
     target = -1;
@@ -145,62 +122,14 @@ void AssoColorMap::refresh()
             target = k;
         }
     }
-    const int components[3] = {editing.red, editing.green, editing.blue};
-    for (int i = 0; i < 3; ++i) {
-        const QSignalBlocker blocker(sliders[i]);
-        sliders[i]->setValue(components[i]);
-    }
-    QPalette palette = preview->palette();
-    palette.setColor(QPalette::Window, quillon::toQColor(editing));
-    preview->setPalette(palette);
-}
-
-void AssoColorMap::paintEvent(QPaintEvent*)
-{
-    QPainter painter(this);
-    quillon::paintColorPresetGrid(painter, kAssoColorPresetGrid, windowWidth, windowHeight);
-}
-
-void AssoColorMap::mouseReleaseEvent(QMouseEvent* event)
-{
-    const QPoint position = event->position().toPoint();
-    const int preset = quillon::presetAt(kAssoColorPresetGrid, position.x(), position.y(),
-                                         windowWidth, windowHeight);
-    if (preset >= 0) {
-        editing = quillon::presetColors()[size_t(preset)];
-        refresh();
-        update();
-    }
-}
-
-void AssoColorMap::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    windowWidth = width();
-    windowHeight = height();
-    layOut();
+    showEditingColor();
 }
 
 // The method choice above the preset grid, the sliders, preview and buttons below it.
 void AssoColorMap::layOut()
 {
-    const int cellHeight = quillon::presetCellHeight(kAssoColorPresetGrid, windowHeight);
-    const int margin = 6;
-    targetGroup->setGeometry(margin, margin, windowWidth - 2 * margin,
-                             quillon::presetGridTop(kAssoColorPresetGrid, windowHeight) -
-                                 2 * margin);
-    const int below = int(cellHeight * 14.6);
-    const int labelWidth = 20;
-    const int sliderWidth = windowWidth * 3 / 5;
-    for (int i = 0; i < 3; ++i) {
-        const int y = below + i * cellHeight * 3 / 2;
-        sliderLabels[i]->setGeometry(margin, y, labelWidth, cellHeight);
-        sliders[i]->setGeometry(margin + labelWidth, y, sliderWidth, cellHeight);
-    }
-    const int previewLeft = margin * 3 + labelWidth + sliderWidth;
-    preview->setGeometry(previewLeft, below, windowWidth - previewLeft - margin, cellHeight * 4);
-    const int buttonsTop = windowHeight - cellHeight * 2 - margin;
-    apply->setGeometry(margin, buttonsTop, windowWidth / 2 - 2 * margin, cellHeight * 2);
-    reset->setGeometry(windowWidth / 2 + margin, buttonsTop, windowWidth / 2 - 2 * margin,
-                       cellHeight * 2);
+    const int cellHeight = quillon::presetCellHeight(presetGrid(), windowHeight());
+    targetGroup->setGeometry(kMargin, kMargin, windowWidth() - 2 * kMargin,
+                             quillon::presetGridTop(presetGrid(), windowHeight()) - 2 * kMargin);
+    layOutEditor(int(cellHeight * 14.6), cellHeight * 3 / 2, cellHeight * 2);
 }

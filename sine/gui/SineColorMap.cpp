@@ -1,88 +1,43 @@
 #include "sine/gui/SineColorMap.h"
 
 #include "common/gui/GroupBoxStyle.h"
-#include "common/gui/QtColor.h"
 #include "sine/gui/SineOpenGLScene.h"
 #include "sine/gui/SineStatusWindow.h"
 
 #include <QComboBox>
 #include <QFormLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QPushButton>
 #include <QSlider>
-#include <QVBoxLayout>
 
 namespace
 {
 
-constexpr QSize kPreviewMinimum(80, 80);
+// The height of one slider row, and of the buttons.
+constexpr int kRowPitch = 28;
+constexpr int kMethodGroupHeight = 64;
 
 } // namespace
 
 SineColorMap::SineColorMap(SineOpenGLScene* scene)
-    : QWidget(nullptr), scene(scene), methods(new QComboBox), preview(new QLabel),
-      apply(new QPushButton(tr("Apply"))), reset(new QPushButton(tr("Reset")))
+    : scene(scene), methodGroup(new QGroupBox(tr("Select a method"), this)), methods(new QComboBox)
 {
-    setWindowTitle(tr("Color map"));
-    setFont(QFont(QStringLiteral("Arial")));
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(makeMethodGroup());
-    layout->addWidget(makeColorEditor());
-    layout->addWidget(makeButtons());
-
-    connect(methods, &QComboBox::currentIndexChanged, this, &SineColorMap::targetChanged);
-    connect(sliders[0], &QSlider::valueChanged, this, &SineColorMap::Rchanged);
-    connect(sliders[1], &QSlider::valueChanged, this, &SineColorMap::Gchanged);
-    connect(sliders[2], &QSlider::valueChanged, this, &SineColorMap::Bchanged);
-    connect(apply, &QPushButton::clicked, this, &SineColorMap::applyColorChange);
-    connect(reset, &QPushButton::clicked, this, &SineColorMap::resetColorChange);
-    targetChanged(methods->currentIndex());
-}
-
-QWidget* SineColorMap::makeMethodGroup()
-{
-    auto* group = new QGroupBox(tr("Select a method"));
-    group->setStyleSheet(quillon::groupBoxStyleSheet());
+    methodGroup->setStyleSheet(quillon::groupBoxStyleSheet());
     methods->addItem(tr("Sine"));
     for (const SineApproach& approach : sineApproaches()) {
         methods->addItem(QString::fromLatin1(approach.longName));
     }
-    auto* form = new QFormLayout(group);
+    auto* form = new QFormLayout(methodGroup);
     form->addRow(tr("Method:"), methods);
-    return group;
-}
 
-// The three sliders beside the preview of the colour they make.
-QWidget* SineColorMap::makeColorEditor()
-{
-    auto* editor = new QWidget;
-    auto* channels = new QFormLayout;
-    const QString names[3] = {tr("R"), tr("G"), tr("B")};
-    for (int i = 0; i < 3; ++i) {
-        sliders[i] = new QSlider(Qt::Horizontal);
-        sliders[i]->setRange(0, 255);
-        channels->addRow(names[i], sliders[i]);
-    }
-    preview->setAutoFillBackground(true);
-    preview->setFrameShape(QFrame::Box);
-    preview->setMinimumSize(kPreviewMinimum);
-    auto* layout = new QHBoxLayout(editor);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addLayout(channels, 3);
-    layout->addWidget(preview, 2);
-    return editor;
-}
-
-QWidget* SineColorMap::makeButtons()
-{
-    auto* buttons = new QWidget;
-    auto* layout = new QHBoxLayout(buttons);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(apply);
-    layout->addWidget(reset);
-    return buttons;
+    connect(methods, &QComboBox::currentIndexChanged, this, &SineColorMap::targetChanged);
+    connect(redSlider(), &QSlider::valueChanged, this, &SineColorMap::Rchanged);
+    connect(greenSlider(), &QSlider::valueChanged, this, &SineColorMap::Gchanged);
+    connect(blueSlider(), &QSlider::valueChanged, this, &SineColorMap::Bchanged);
+    connect(applyButton(), &QPushButton::clicked, this, &SineColorMap::applyColorChange);
+    connect(resetButton(), &QPushButton::clicked, this, &SineColorMap::resetColorChange);
+    resize(440, kMethodGroupHeight + 5 * kRowPitch + 4 * kMargin);
+    targetChanged(methods->currentIndex());
 }
 
 void SineColorMap::targetChanged(int slot)
@@ -93,29 +48,26 @@ void SineColorMap::targetChanged(int slot)
 
 void SineColorMap::Rchanged(int value)
 {
-    pending.red = value;
-    showPendingColor();
+    setEditingChannel(0, value);
 }
 
 void SineColorMap::Gchanged(int value)
 {
-    pending.green = value;
-    showPendingColor();
+    setEditingChannel(1, value);
 }
 
 void SineColorMap::Bchanged(int value)
 {
-    pending.blue = value;
-    showPendingColor();
+    setEditingChannel(2, value);
 }
 
 void SineColorMap::applyColorChange()
 {
-    scene->setColor(target, pending);
+    scene->setColor(target, editingColor());
     if (statusWindow != nullptr) {
         statusWindow->refreshColors();
     }
-    showPendingColor();
+    refresh();
 }
 
 void SineColorMap::resetColorChange()
@@ -125,21 +77,13 @@ void SineColorMap::resetColorChange()
 
 void SineColorMap::takeSceneColor()
 {
-    pending = scene->colors()[target];
-    showPendingColor();
+    setEditingColor(scene->colors()[target]);
 }
 
-// Sets the sliders without feeding their values back into the pending colour, which may lie
-// outside 0..255 when a configuration file held such a number.
-void SineColorMap::showPendingColor()
+// The method choice at the top, the sliders beside the preview below it, the buttons at the
+// bottom.
+void SineColorMap::layOut()
 {
-    const int components[3] = {pending.red, pending.green, pending.blue};
-    for (int i = 0; i < 3; ++i) {
-        const QSignalBlocker blocker(sliders[i]);
-        sliders[i]->setValue(components[i]);
-    }
-    QPalette palette = preview->palette();
-    palette.setColor(QPalette::Window, quillon::toQColor(pending));
-    preview->setPalette(palette);
-    update();
+    methodGroup->setGeometry(kMargin, kMargin, windowWidth() - 2 * kMargin, kMethodGroupHeight);
+    layOutEditor(kMethodGroupHeight + 2 * kMargin, kRowPitch, kRowPitch);
 }

@@ -360,12 +360,12 @@ void SineToolWindowsTest::colorMapEditsResetsAndApplies()
     colorMap->redSlider()->setValue(10);
     colorMap->greenSlider()->setValue(20);
     colorMap->blueSlider()->setValue(30);
-    QCOMPARE(colorMap->pendingColor(), (quillon::ColorTriple{10, 20, 30}));
+    QCOMPARE(colorMap->editingColor(), (quillon::ColorTriple{10, 20, 30}));
     QCOMPARE(shownColor(colorMap->previewLabel()), QColor(10, 20, 30));
     QCOMPARE(scene->colors()[5], (quillon::ColorTriple{255, 0, 0}));
 
     QTest::mouseClick(colorMap->resetButton(), Qt::LeftButton);
-    QCOMPARE(colorMap->pendingColor(), (quillon::ColorTriple{255, 0, 0}));
+    QCOMPARE(colorMap->editingColor(), (quillon::ColorTriple{255, 0, 0}));
     QCOMPARE(colorMap->redSlider()->value(), 255);
 
     colorMap->blueSlider()->setValue(77);
@@ -374,7 +374,7 @@ void SineToolWindowsTest::colorMapEditsResetsAndApplies()
     QCOMPARE(shownColor(statusCell(status, "color", 5)), QColor(255, 0, 77));
 
     colorMap->methodComboBox()->setCurrentIndex(0);
-    QCOMPARE(colorMap->pendingColor(), (quillon::ColorTriple{0, 0, 0}));
+    QCOMPARE(colorMap->editingColor(), (quillon::ColorTriple{0, 0, 0}));
     QCOMPARE(colorMap->blueSlider()->value(), 0);
 }
 
