@@ -9,8 +9,10 @@
 #include "assoc/gui/AssoSelectionWindow.h"
 #include "assoc/gui/AssoUserMenu.h"
 #include "common/gui/TabPageArea.h"
+#include "pentagon/gui/PentagonColorMap.h"
 #include "pentagon/gui/PentagonFocusWindow.h"
 #include "pentagon/gui/PentagonHelpWindow.h"
+#include "pentagon/gui/PentagonMiniMap.h"
 #include "pentagon/gui/PentagonOpenGLScene.h"
 #include "pentagon/gui/PentagonPanel.h"
 #include "pentagon/gui/PentagonUserMenu.h"
@@ -107,7 +109,11 @@ void MainWindow::setUpPentagonTab()
     pentagonScene =
         new PentagonOpenGLScene(PentagonPanel::find(ui->pentagon_win), &pentagonColors, this);
     auto* focus = new PentagonFocusWindow(pentagonScene);
+    auto* miniMap = new PentagonMiniMap(pentagonScene);
     pentagonScene->setFocusWindow(focus);
+    pentagonScene->setMiniMap(miniMap);
+    installAuxiliaryWindow(AuxWindow::PentagonColorMap, new PentagonColorMap(pentagonScene));
+    installAuxiliaryWindow(AuxWindow::PentagonMiniMap, miniMap);
     installAuxiliaryWindow(AuxWindow::PentagonFocus, focus);
     installAuxiliaryWindow(AuxWindow::PentagonHelp, new PentagonHelpWindow(tr("About")));
     installAuxiliaryWindow(AuxWindow::PentagonUserMenu, new PentagonUserMenu(tr("Help")));

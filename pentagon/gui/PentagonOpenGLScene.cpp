@@ -7,6 +7,8 @@
 #include "common/gui/PlotOverlay.h"
 #include "pentagon/engine/PentagonView.h"
 #include "pentagon/gui/PentagonFocusWindow.h"
+#include "pentagon/gui/PentagonMiniMap.h"
+#include "pentagon/gui/PentagonMiniScene.h"
 
 #include <GL/gl.h>
 #include <QFontMetrics>
@@ -54,7 +56,6 @@ PentagonOpenGLScene::PentagonOpenGLScene(const PentagonPanel& panel,
     : OpenGLPlotScene(parent), panel(panel), colorSettings(colorSettings)
 {
     showFittedRange(geometry.fittedRange());
-    selected.assign(geometry.getHistory().size(), false);
 }
 
 void PentagonOpenGLScene::setRange(const PentagonRange& range)
@@ -75,6 +76,57 @@ void PentagonOpenGLScene::showFittedRange(const PentagonRange& fitted)
     }
 }
 
+void PentagonOpenGLScene::setMiniMap(PentagonMiniMap* window)
+{
+    miniMap = window;
+}
+
+void PentagonOpenGLScene::setFocusWindow(PentagonFocusWindow* window)
+{
+    focusWindow = window;
+}
+
+void PentagonOpenGLScene::refreshHistoryWindow(bool restarted)
+{
+    if (miniMap == nullptr) {
+        return;
+    }
+    if (restarted) {
+        miniMap->historyScene()->historyRestarted();
+    } else {
+        miniMap->historyScene()->updateRange();
+    }
+}
+
+bool PentagonOpenGLScene::isSelected(size_t entry) const
+{
+    return miniMap != nullptr && miniMap->historyScene()->isSelected(entry);
+}
+
+void PentagonOpenGLScene::setSelectionMode(bool on)
+{
+    selectionMode = on;
+    repaint();
+}
+
+void PentagonOpenGLScene::fitToSelection()
+{
+    showFittedRange(pentagonFittedRange({-1.0f, 1.0f, -1.0f, 1.0f}, selectedPentagons()));
+    repaint();
+}
+
+void PentagonOpenGLScene::fitToHistory()
+{
+    showFittedRange(geometry.fittedRange());
+    repaint();
+}
+
+void PentagonOpenGLScene::setColor(int index, const quillon::ColorTriple& color)
+{
+    colorSettings->colors[size_t(index)] = color;
+    repaint();
+}
+
 void PentagonOpenGLScene::showCounts()
 {
     panel.numIn->setText(QString::fromStdString(quillon::cformat("%d", geometry.getNumIns())));
@@ -93,7 +145,7 @@ void PentagonOpenGLScene::startOver(void (PentagonEngine::*restart)())
 {
     (geometry.*restart)();
     showFittedRange(geometry.fittedRange());
-    selected.assign(geometry.getHistory().size(), false);
+    refreshHistoryWindow(true);
     showCounts();
     repaint();
 }
@@ -120,8 +172,8 @@ void PentagonOpenGLScene::step(void (PentagonEngine::*operation)())
     (geometry.*operation)();
     if (geometry.getHistory().size() != before) {
         showFittedRange(geometry.fittedRange());
-        selected.resize(geometry.getHistory().size(), false);
     }
+    refreshHistoryWindow(false);
     showCounts();
     repaint();
 }
@@ -373,16 +425,18 @@ void PentagonOpenGLScene::runningMan()
     repaint();
 }
 
-// The pentagons drawn: the valid history entries, or in selection mode the selected ones.
+// The pentagons drawn: the valid history entries, or in selection mode the marked ones.
 std::vector<PentagonPoints> PentagonOpenGLScene::drawnPentagons() const
 {
+    return selectionMode ? selectedPentagons() : geometry.validPentagons();
+}
+
+std::vector<PentagonPoints> PentagonOpenGLScene::selectedPentagons() const
+{
     const std::vector<PentagonPoints> valid = geometry.validPentagons();
-    if (!selectionMode) {
-        return valid;
-    }
     std::vector<PentagonPoints> chosen;
-    for (size_t n = 0; n < valid.size() && n < selected.size(); ++n) {
-        if (selected[n]) {
+    for (size_t n = 0; n < valid.size(); ++n) {
+        if (isSelected(n)) {
             chosen.push_back(valid[n]);
         }
     }
@@ -412,7 +466,7 @@ void PentagonOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
             geometry.addManualPoint(x, y);
             if (geometry.getUserPointCount() == 5) {
                 showFittedRange(geometry.fittedRange());
-                selected.assign(geometry.getHistory().size(), false);
+                refreshHistoryWindow(true);
             }
             pressPos = QPointF(-1, -1);
         }
@@ -490,7 +544,7 @@ void PentagonOpenGLScene::drawHistory() const
     glLineWidth(float(colorSettings->lineWidth));
     glBegin(GL_LINES);
     for (int n = 0; n < int(valid.size()); ++n) {
-        if (selectionMode && (size_t(n) >= selected.size() || !selected[size_t(n)])) {
+        if (selectionMode && !isSelected(size_t(n))) {
             continue;
         }
         const int age = count - n - 1;

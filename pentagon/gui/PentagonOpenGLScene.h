@@ -6,10 +6,12 @@
 #include "pentagon/gui/PentagonPanel.h"
 
 #include <QPointF>
+#include <QPointer>
 #include <QString>
 #include <vector>
 
 class PentagonFocusWindow;
+class PentagonMiniMap;
 
 // The pentagon tab's plot: every valid pentagon of the In/Out history, drawn with OpenGL in
 // colours that fade with age, the points of a pentagon being entered by mouse, value labels,
@@ -31,9 +33,23 @@ public:
     int zoomDepth() const { return int(zoomStack.size()); }
     bool showsSelection() const { return selectionMode; }
 
+    // The "Selections" window, whose marks choose the pentagons drawn in selection mode and
+    // which follows every step and start-over.
+    void setMiniMap(PentagonMiniMap* window);
+    // Selection mode draws only the marked pentagons.
+    void setSelectionMode(bool on);
+    // Fits the range to the marked pentagons (to -1.1 .. 1.1 when none is marked), or to the
+    // whole history, and shows it in the focus window.
+    void fitToSelection();
+    void fitToHistory();
+
+    const PentagonColorSettings& colors() const { return *colorSettings; }
+    // Sets colour triple `index` (0 .. 6) of the settings and repaints.
+    void setColor(int index, const quillon::ColorTriple& color);
+
     // The "Region focus" window, whose fields updateXmin() .. XYapply() read and which shows
     // the range whenever it is fitted.
-    void setFocusWindow(PentagonFocusWindow* window) { focusWindow = window; }
+    void setFocusWindow(PentagonFocusWindow* window);
 
     // The file routines: each returns a one-line reason when it failed (changing nothing).
     QString loadConfiguration(const QString& path);
@@ -86,11 +102,14 @@ private:
     void startOver(void (PentagonEngine::*restart)());
     void step(void (PentagonEngine::*operation)());
     void showCounts();
+    void refreshHistoryWindow(bool restarted);
+    bool isSelected(size_t entry) const;
     void setRange(const PentagonRange& range);
     void showFittedRange(const PentagonRange& fitted);
     void updateBound(float& bound, int field);
     void setEpsilonPreset(int index, bool on);
     std::vector<PentagonPoints> drawnPentagons() const;
+    std::vector<PentagonPoints> selectedPentagons() const;
     PentagonRange fittedRange() const;
     void drawEnteredPoints() const;
     void drawHistory() const;
@@ -102,13 +121,14 @@ private:
     PentagonPanel panel;
     PentagonColorSettings* colorSettings;
     PentagonEngine geometry;
+    // Guarded: the main window may replace either window while the scene lives.
+    QPointer<PentagonMiniMap> miniMap;
     bool selectionMode = false;
-    std::vector<bool> selected;
     float xMin = -0.055f;
     float xMax = 1.155f;
     float yMin = -0.055f;
     float yMax = 1.155f;
-    PentagonFocusWindow* focusWindow = nullptr;
+    QPointer<PentagonFocusWindow> focusWindow; // guarded like miniMap
     bool showXIndices = false;
     bool showYIndices = false;
     bool showXAxis = false;

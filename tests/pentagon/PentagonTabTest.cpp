@@ -1,16 +1,23 @@
 #include "app/GraphicsView.h"
 #include "app/MainWindow.h"
+#include "pentagon/gui/PentagonColorMap.h"
 #include "pentagon/gui/PentagonFocusWindow.h"
+#include "pentagon/gui/PentagonMiniMap.h"
+#include "pentagon/gui/PentagonMiniScene.h"
 #include "pentagon/gui/PentagonOpenGLScene.h"
 #include "tests/gui/GuiTestSupport.h"
 #include "tests/gui/PaintedTextRecorder.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QGraphicsView>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
+#include <QSlider>
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextBrowser>
@@ -57,6 +64,13 @@ private slots:
     void focusWindowShowsAndSetsTheRange();
     void filesThroughTheDialogs();
     void helpWindowsShowTheirTexts();
+    void historyWindowListsTheStepsNewestFirst();
+    void historyScrollBarFollowsTheHistoryAndWaitsForTheRelease();
+    void headingTurnsSelectionModeOnAndOff();
+    void selectedEntriesAreTheOnlyOnesDrawn();
+    void historyWindowListsTheFailedStep();
+    void colorMapAppliesOnlyOnApply();
+    void colorMapPresetsAndFixedGreys();
 
 private:
     template <typename T> T* child(const char* name) const
@@ -67,6 +81,10 @@ private:
     void choose(const char* radio);
     QImage plot();
     QStringList paintedTexts() const;
+    PentagonMiniMap* openHistoryWindow();
+    QStringList listedRow(PentagonMiniMap* history, int row) const;
+    void clickListRow(PentagonMiniMap* history, int row, Qt::MouseButton button = Qt::LeftButton);
+    void runAnimatedExample();
 
     std::unique_ptr<MainWindow> window;
     std::unique_ptr<QTemporaryDir> folder;
@@ -115,6 +133,49 @@ QStringList PentagonTabTest::paintedTexts() const
         texts << painted.text;
     }
     return texts;
+}
+
+PentagonMiniMap* PentagonTabTest::openHistoryWindow()
+{
+    return qobject_cast<PentagonMiniMap*>(popMenuWindow(*window, QStringLiteral("&Tools"),
+                                                        QStringLiteral("&Selections ..."),
+                                                        QStringLiteral("Selections")));
+}
+
+// The list is 318 pixels high (the window's 320 less 2) in 11 rows of 318 / 11 pixels.
+constexpr double kListRowHeight = 318.0 / 11.0;
+
+// The texts painted in one row of the history list, left to right.
+QStringList PentagonTabTest::listedRow(PentagonMiniMap* history, int row) const
+{
+    QList<PaintedText> texts =
+        foregroundTexts(history->historyScene(), history->listView()->viewport()->size());
+    std::sort(texts.begin(), texts.end(), [](const PaintedText& a, const PaintedText& b) {
+        return a.position.x() < b.position.x();
+    });
+    QStringList cells;
+    for (const PaintedText& painted : texts) {
+        const double y = painted.position.y();
+        if (y >= row * kListRowHeight && y < (row + 1) * kListRowHeight) {
+            cells << painted.text;
+        }
+    }
+    return cells;
+}
+
+void PentagonTabTest::clickListRow(PentagonMiniMap* history, int row, Qt::MouseButton button)
+{
+    QTest::mouseClick(history->listView()->viewport(), button, {},
+                      QPoint(200, int((row + 0.5) * kListRowHeight)));
+}
+
+// Start, then the ten ticks of five Ins and five Outs: eleven pentagons.
+void PentagonTabTest::runAnimatedExample()
+{
+    click("pentagon_Default");
+    for (int tick = 0; tick < 10; ++tick) {
+        scene->runningMan();
+    }
 }
 
 void PentagonTabTest::panelStartsAsTheAnimatedExample()
@@ -448,6 +509,249 @@ void PentagonTabTest::helpWindowsShowTheirTexts()
         QCOMPARE(browser->toPlainText(), golden(name));
         browser->window()->close();
     }
+}
+
+// Row r lists entry scrollIndex - r + 2: at the top of the scroll bar the first In above the
+// initial pentagon; further down, newer steps above older ones.
+void PentagonTabTest::historyWindowListsTheStepsNewestFirst()
+{
+    PentagonMiniMap* history = openHistoryWindow();
+    QVERIFY(history != nullptr);
+    runAnimatedExample();
+    QCOMPARE(listedRow(history, 0),
+             (QStringList{"Need selection", "Operation", "# of Ins", "# of Outs", "Status"}));
+    QCOMPARE(listedRow(history, 1), (QStringList{"In", "1", "0", "OK"}));
+    QCOMPARE(listedRow(history, 2), (QStringList{"Initial pentagon", "OK"}));
+    QVERIFY(listedRow(history, 3).isEmpty());
+    history->scrollBar()->setValue(9);
+    QCOMPARE(listedRow(history, 1), (QStringList{"Out", "5", "5", "OK"}));
+    QCOMPARE(listedRow(history, 2), (QStringList{"Out", "5", "4", "OK"}));
+    QCOMPARE(listedRow(history, 5), (QStringList{"Out", "5", "1", "OK"}));
+    QCOMPARE(listedRow(history, 6), (QStringList{"In", "5", "0", "OK"}));
+    QCOMPARE(listedRow(history, 10), (QStringList{"In", "1", "0", "OK"}));
+    history->close();
+}
+
+void PentagonTabTest::historyScrollBarFollowsTheHistoryAndWaitsForTheRelease()
+{
+    PentagonMiniMap* history = openHistoryWindow();
+    QVERIFY(history != nullptr);
+    QScrollBar* bar = history->scrollBar();
+    QCOMPARE(bar->maximum(), 0);
+    choose("pentagon_autoInput");
+    click("pentagon_In");
+    QCOMPARE(bar->maximum(), 2);
+    click("pentagon_Out");
+    click("pentagon_In");
+    QCOMPARE(bar->maximum(), 4);
+    QCOMPARE(bar->pageStep(), 5);
+
+    // Drag the handle down: the rows change when it is let go, not while it moves.
+    const QPoint handle(bar->width() / 2, 30);
+    QTest::mousePress(bar, Qt::LeftButton, {}, handle);
+    QMouseEvent move(QEvent::MouseMove, QPointF(handle.x(), 250),
+                     bar->mapToGlobal(QPointF(handle.x(), 250)), Qt::NoButton, Qt::LeftButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(bar, &move);
+    QVERIFY(bar->sliderPosition() > 0);
+    QCOMPARE(history->historyScene()->getScrollIndex(), 0);
+    QCOMPARE(listedRow(history, 2), (QStringList{"Initial pentagon", "OK"}));
+    QTest::mouseRelease(bar, Qt::LeftButton, {}, QPoint(handle.x(), 250));
+    QCOMPARE(history->historyScene()->getScrollIndex(), bar->value());
+    QVERIFY(bar->value() > 0);
+    QVERIFY(listedRow(history, 2) != (QStringList{"Initial pentagon", "OK"}));
+
+    click("pentagon_clean");
+    QCOMPARE(bar->maximum(), 0);
+    history->close();
+}
+
+void PentagonTabTest::headingTurnsSelectionModeOnAndOff()
+{
+    PentagonMiniMap* history = openHistoryWindow();
+    QVERIFY(history != nullptr);
+    runAnimatedExample();
+    PentagonMiniScene* list = history->historyScene();
+    // Outside selection mode a click on an entry marks nothing.
+    clickListRow(history, 2);
+    QVERIFY(!list->isSelected(0));
+
+    clickListRow(history, 0);
+    QVERIFY(list->inSelectionMode());
+    QVERIFY(scene->showsSelection());
+    // Nothing is marked yet: nothing is drawn and the view fits -1 .. 1 widened by 10%.
+    QCOMPARE(scene->range().xMin, -1.1f);
+    QCOMPARE(scene->range().yMax, 1.1f);
+    QImage frame = plot();
+    QVERIFY(!hasColor(frame, kInitialRed));
+    QVERIFY(!hasColor(frame, kNewestBlue));
+
+    clickListRow(history, 2);
+    QVERIFY(list->isSelected(0));
+    clickListRow(history, 0);
+    QVERIFY(!list->inSelectionMode());
+    QVERIFY(!scene->showsSelection());
+    QVERIFY(!list->isSelected(0));
+    // Back to every pentagon, fitted to the whole history.
+    QCOMPARE(scene->range().xMin, scene->engine().fittedRange().xMin);
+    frame = plot();
+    QVERIFY(hasColor(frame, kInitialRed));
+    QVERIFY(hasColor(frame, kNewestBlue));
+    // Turning it on again starts with nothing marked.
+    clickListRow(history, 0);
+    QVERIFY(!list->isSelected(0));
+    clickListRow(history, 0);
+    history->close();
+}
+
+void PentagonTabTest::selectedEntriesAreTheOnlyOnesDrawn()
+{
+    PentagonMiniMap* history = openHistoryWindow();
+    QVERIFY(history != nullptr);
+    auto* focus = qobject_cast<PentagonFocusWindow*>(
+        popMenuWindow(*window, QStringLiteral("&Tools"), QStringLiteral("&Focus regions ..."),
+                      QStringLiteral("Region focus")));
+    QVERIFY(focus != nullptr);
+    runAnimatedExample();
+    PentagonMiniScene* list = history->historyScene();
+    const QImage unmarked = history->listView()->grab().toImage().copy(0, 59, 40, 27);
+    clickListRow(history, 0);
+    clickListRow(history, 2);
+    QVERIFY(list->isSelected(0));
+    QVERIFY(history->listView()->grab().toImage().copy(0, 59, 40, 27) != unmarked);
+    // The initial pentagon alone (epsilon 0.1 until "Default" is chosen): (0, 0), (0, 1),
+    // (1, 1.1), (1.1, 1), (1, 0), a box 1.1 wide centred on 0.55, widened by 10% to
+    // 0.55 -+ 0.605.
+    QCOMPARE(focus->xMinEdit()->text(), QStringLiteral("-0.055000"));
+    QCOMPARE(focus->yMaxEdit()->text(), QStringLiteral("1.155000"));
+    QImage frame = plot();
+    QVERIFY(hasColor(frame, kInitialRed));
+    QVERIFY(!hasColor(frame, kNewestBlue));
+    QVERIFY(!hasColor(frame, QColor(72, 72, 72)));
+    // Row 1 is the first In, nine steps older than the newest: grey 9 x 0.0625 x 128 = 72.
+    clickListRow(history, 1);
+    QVERIFY(list->isSelected(1));
+    frame = plot();
+    QVERIFY(hasColor(frame, QColor(72, 72, 72)));
+    QVERIFY(!hasColor(frame, kNewestBlue));
+    // Unmarking takes it away again.
+    clickListRow(history, 1);
+    QVERIFY(!list->isSelected(1));
+    QVERIFY(!hasColor(plot(), QColor(72, 72, 72)));
+    // Rows below the initial pentagon list nothing, and a click there marks nothing.
+    clickListRow(history, 5);
+    QCOMPARE(scene->engine().getHistory().size(), 11u);
+    // A right click clears every mark and fits the empty selection.
+    clickListRow(history, 1);
+    clickListRow(history, 1, Qt::RightButton);
+    QVERIFY(!list->isSelected(0));
+    QVERIFY(!list->isSelected(1));
+    QCOMPARE(focus->xMinEdit()->text(), QStringLiteral("-1.100000"));
+    QCOMPARE(history->listView()->grab().toImage().copy(0, 59, 40, 27), unmarked);
+    clickListRow(history, 0);
+    focus->close();
+    history->close();
+}
+
+void PentagonTabTest::historyWindowListsTheFailedStep()
+{
+    PentagonMiniMap* history = openHistoryWindow();
+    QVERIFY(history != nullptr);
+    choose("pentagon_autoInput");
+    for (int i = 0; i < 11; ++i) {
+        click("pentagon_In");
+    }
+    // Ten pentagons after the initial one; the eleventh In failed and is listed above them
+    // (as entry 11, in row 1 when the scroll bar is at 10).
+    history->scrollBar()->setValue(10);
+    QCOMPARE(listedRow(history, 1), (QStringList{"In", "11", "0", "Failed: not a pentagon"}));
+    QCOMPARE(listedRow(history, 2), (QStringList{"In", "10", "0", "OK"}));
+    clickListRow(history, 0);
+    clickListRow(history, 1);
+    QVERIFY(!history->historyScene()->isSelected(11));
+    clickListRow(history, 0);
+    history->close();
+}
+
+void PentagonTabTest::colorMapAppliesOnlyOnApply()
+{
+    auto* colors = qobject_cast<PentagonColorMap*>(popMenuWindow(*window, QStringLiteral("&Tools"),
+                                                                 QStringLiteral("&Color map ..."),
+                                                                 QStringLiteral("Color map")));
+    QVERIFY(colors != nullptr);
+    runAnimatedExample();
+    QStringList items;
+    for (int i = 0; i < colors->itemComboBox()->count(); ++i) {
+        items << colors->itemComboBox()->itemText(i);
+    }
+    QCOMPARE(items, (QStringList{"Point 1", "Point 2", "Point 3", "Point 4", "Point 5",
+                                 "Lines of current pentagon", "Lines of previous 1-step pentagon",
+                                 "Lines of previous 2-step pentagon",
+                                 "Lines of previous other pentagons"}));
+    // The newest pentagon's colour, blue by default.
+    colors->itemComboBox()->setCurrentIndex(6);
+    QCOMPARE(colors->editingColor(), (quillon::ColorTriple{0, 0, 255}));
+    colors->redSlider()->setValue(10);
+    colors->greenSlider()->setValue(200);
+    colors->blueSlider()->setValue(30);
+    QCOMPARE(colors->editingColor(), (quillon::ColorTriple{10, 200, 30}));
+    QCOMPARE(colors->previewLabel()->palette().color(QPalette::Window), QColor(10, 200, 30));
+    QImage frame = plot();
+    QVERIFY(hasColor(frame, kNewestBlue));
+    QVERIFY(!hasColor(frame, QColor(10, 200, 30)));
+
+    QTest::mouseClick(colors->resetButton(), Qt::LeftButton);
+    QCOMPARE(colors->editingColor(), (quillon::ColorTriple{0, 0, 255}));
+    QCOMPARE(colors->greenSlider()->value(), 0);
+
+    colors->greenSlider()->setValue(200);
+    QTest::mouseClick(colors->applyButton(), Qt::LeftButton);
+    QCOMPARE(scene->colors().colors[6], (quillon::ColorTriple{0, 200, 255}));
+    frame = plot();
+    QVERIFY(hasColor(frame, QColor(0, 200, 255)));
+    QVERIFY(!hasColor(frame, kNewestBlue));
+    colors->close();
+}
+
+void PentagonTabTest::colorMapPresetsAndFixedGreys()
+{
+    auto* colors = qobject_cast<PentagonColorMap*>(popMenuWindow(*window, QStringLiteral("&Tools"),
+                                                                 QStringLiteral("&Color map ..."),
+                                                                 QStringLiteral("Color map")));
+    QVERIFY(colors != nullptr);
+    colors->resize(443, 490);
+    // Cells 443 / 8 = 55 wide and int(490 / 17.5) = 28 high from int(28 * 3.9) = 109 down:
+    // the second cell of the second row is preset 9, yellow.
+    QTest::mouseClick(colors, Qt::LeftButton, {}, QPoint(55 + 10, 109 + 28 + 10));
+    QCOMPARE(colors->editingColor(), (quillon::ColorTriple{255, 255, 0}));
+    QCOMPARE(colors->greenSlider()->value(), 255);
+    // Right of the last column: the first preset of the next row.
+    QTest::mouseClick(colors, Qt::LeftButton, {}, QPoint(441, 109 + 10));
+    QCOMPARE(colors->editingColor(), (quillon::ColorTriple{255, 0, 0}));
+    // The last row holds greys, black first.
+    QTest::mouseClick(colors, Qt::LeftButton, {}, QPoint(10, 109 + 6 * 28 + 10));
+    QCOMPARE(colors->editingColor(), (quillon::ColorTriple{0, 0, 0}));
+    // Below the grid nothing changes.
+    QTest::mouseClick(colors, Qt::LeftButton, {}, QPoint(10, 109 + 7 * 28 + 2));
+    QCOMPARE(colors->editingColor(), (quillon::ColorTriple{0, 0, 0}));
+
+    // The two older ages show the greys they are drawn in and cannot be applied; applying
+    // anyway leaves every setting alone.
+    const PentagonColorSettings before = scene->colors();
+    colors->itemComboBox()->setCurrentIndex(7);
+    QCOMPARE(colors->editingColor(), (quillon::ColorTriple{8, 8, 8}));
+    QVERIFY(!colors->applyButton()->isEnabled());
+    QVERIFY(colors->fixedGreyNote()->isVisible());
+    colors->itemComboBox()->setCurrentIndex(8);
+    QCOMPARE(colors->editingColor(), (quillon::ColorTriple{16, 16, 16}));
+    colors->redSlider()->setValue(99);
+    colors->applyColorChange();
+    QVERIFY(scene->colors() == before);
+    colors->itemComboBox()->setCurrentIndex(0);
+    QVERIFY(colors->applyButton()->isEnabled());
+    QVERIFY(!colors->fixedGreyNote()->isVisible());
+    QCOMPARE(colors->editingColor(), (quillon::ColorTriple{255, 0, 0}));
+    colors->close();
 }
 
 QTEST_MAIN(PentagonTabTest)
