@@ -63,6 +63,7 @@ private slots:
     void labelsAndGridLines();
     void focusWindowShowsAndSetsTheRange();
     void filesThroughTheDialogs();
+    void damagedConfigurationFilesChangeOnlyWhatTheyHold();
     void helpWindowsShowTheirTexts();
     void historyWindowListsTheStepsNewestFirst();
     void historyScrollBarFollowsTheHistoryAndWaitsForTheRelease();
@@ -317,6 +318,7 @@ void PentagonTabTest::failedStepShowsItsMessageAndRefusesMore()
     QCOMPARE(child<QLabel>("pentagon_Num_out")->text(), QStringLiteral("0"));
     QCOMPARE(paintedTexts(),
              QStringList{QStringLiteral("Error! New five points can not form a pentagon! ")});
+    QCOMPARE(foregroundTexts(scene, view->size()).front().color, QColor(Qt::red));
     // A refused step leaves a zoomed view as it is.
     const QSize size = view->viewport()->size();
     QTest::mousePress(view->viewport(), Qt::LeftButton, {}, QPoint(0, size.height()));
@@ -489,6 +491,40 @@ void PentagonTabTest::filesThroughTheDialogs()
     const QImage frame = plot();
     QVERIFY(hasColor(frame, QColor(0, 200, 0)));
     QVERIFY(!hasColor(frame, kInitialRed));
+}
+
+// CRLF line ends, a line cut short and an enormous file each change only the values they hold;
+// files that cannot be read are reported and change nothing.
+void PentagonTabTest::damagedConfigurationFilesChangeOnlyWhatTheyHold()
+{
+    const auto writeFile = [this](const char* name, const QByteArray& contents) {
+        QFile file(folder->filePath(QString::fromLatin1(name)));
+        return file.open(QIODevice::WriteOnly) && file.write(contents) == contents.size()
+                   ? file.fileName()
+                   : QString();
+    };
+    PentagonColorSettings expected = scene->colors();
+    QVERIFY(chooseFileThroughMenu(
+        *window, QStringLiteral("&Open a configuration file ..."),
+        writeFile("cut.conf", "Five point size 5 \r\nAll line widthes 2 \r\nPoint1 Color R 7 G")));
+    expected.pointSize = 5;
+    expected.lineWidth = 2;
+    expected.colors[0].red = 7;
+    QVERIFY(scene->colors() == expected);
+
+    // A gigabyte (sparse) after two good lines: only the first megabyte is read.
+    const QString enormous =
+        writeFile("enormous.conf", "Five point size 9 \nAll line widthes 3 \n");
+    QVERIFY(QFile(enormous).resize(qint64(1) << 30));
+    QVERIFY(
+        chooseFileThroughMenu(*window, QStringLiteral("&Open a configuration file ..."), enormous));
+    expected.pointSize = 9;
+    expected.lineWidth = 3;
+    QVERIFY(scene->colors() == expected);
+
+    QVERIFY(!scene->loadConfiguration(folder->filePath(QStringLiteral("missing.conf"))).isEmpty());
+    QVERIFY(!scene->loadConfiguration(folder->path()).isEmpty());
+    QVERIFY(scene->colors() == expected);
 }
 
 void PentagonTabTest::helpWindowsShowTheirTexts()
