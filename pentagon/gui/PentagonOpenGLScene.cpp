@@ -20,6 +20,8 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
+#include <cstring>
+#include <unordered_set>
 
 namespace
 {
@@ -38,6 +40,36 @@ constexpr EpsilonPreset kEpsilonPresets[6] = {
 // The Default pentagon of the animated example is built with this epsilon, whichever of the
 // six the panel shows.
 constexpr float kAnimationEpsilon = 0.175f;
+
+// One segment of a drawn pentagon, -0 read as +0 (both give the same pixels).
+struct Segment {
+    float x1;
+    float y1;
+    float x2;
+    float y2;
+
+    Segment(float x1, float y1, float x2, float y2)
+        : x1(x1 + 0.0f), y1(y1 + 0.0f), x2(x2 + 0.0f), y2(y2 + 0.0f)
+    {
+    }
+    friend bool operator==(const Segment& a, const Segment& b)
+    {
+        return a.x1 == b.x1 && a.y1 == b.y1 && a.x2 == b.x2 && a.y2 == b.y2;
+    }
+};
+
+struct SegmentHash {
+    size_t operator()(const Segment& segment) const
+    {
+        size_t hash = 0;
+        for (const float value : {segment.x1, segment.y1, segment.x2, segment.y2}) {
+            uint32_t bits = 0;
+            std::memcpy(&bits, &value, sizeof bits);
+            hash = hash * 1000003u ^ bits;
+        }
+        return hash;
+    }
+};
 
 void glColor(const quillon::ColorTriple& color)
 {
@@ -541,6 +573,10 @@ void PentagonOpenGLScene::drawHistory() const
 {
     const std::vector<PentagonPoints> valid = geometry.validPentagons();
     const int count = int(geometry.getHistory().size());
+    // Every pentagon lies at the same depth, so on each pixel the first segment drawn there
+    // wins and a segment drawn again at the same coordinates adds nothing. In and Out pairs
+    // soon cycle through a few pentagons, so a long history is mostly such repeats.
+    std::unordered_set<Segment, SegmentHash> drawn;
     glLineWidth(float(colorSettings->lineWidth));
     glBegin(GL_LINES);
     for (int n = 0; n < int(valid.size()); ++n) {
@@ -561,8 +597,11 @@ void PentagonOpenGLScene::drawHistory() const
         // to itself, adds no pixel of another colour.
         for (int i = 1; i <= 5; ++i) {
             for (int j = i + 1; j <= 5; ++j) {
-                glVertex3f(pentagon.x(i), pentagon.y(i), 0.0f);
-                glVertex3f(pentagon.x(j), pentagon.y(j), 0.0f);
+                if (drawn.emplace(pentagon.x(i), pentagon.y(i), pentagon.x(j), pentagon.y(j))
+                        .second) {
+                    glVertex3f(pentagon.x(i), pentagon.y(i), 0.0f);
+                    glVertex3f(pentagon.x(j), pentagon.y(j), 0.0f);
+                }
             }
         }
     }
