@@ -12,7 +12,8 @@ int CliCommand::usageError(const CliStreams& streams, const QString& message) co
 
 std::optional<int> CliCommand::parseArguments(QCommandLineParser& parser,
                                               const QStringList& arguments,
-                                              const CliStreams& streams, const char* help) const
+                                              const CliStreams& streams, const char* help,
+                                              int positionals) const
 {
     const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")}, QString());
     parser.addOption(helpOption);
@@ -23,10 +24,9 @@ std::optional<int> CliCommand::parseArguments(QCommandLineParser& parser,
         std::fputs(help, streams.out);
         return ExitSuccess;
     }
-    if (!parser.positionalArguments().isEmpty()) {
-        return usageError(
-            streams,
-            QStringLiteral("unexpected argument '%1'").arg(parser.positionalArguments().first()));
+    if (parser.positionalArguments().size() > positionals) {
+        return usageError(streams, QStringLiteral("unexpected argument '%1'")
+                                       .arg(parser.positionalArguments().at(positionals)));
     }
     return std::nullopt;
 }

@@ -36,10 +36,11 @@ protected:
     int usageError(const CliStreams& streams, const QString& message) const;
 
     // Adds -h/--help to `parser` and parses `arguments`. Returns the exit status when the
-    // command is done already (help shown, or an unknown option or stray argument reported),
-    // nothing when it should go on.
+    // command is done already (help shown, or an unknown option or a stray argument beyond
+    // the `positionals` the command takes reported), nothing when it should go on.
     std::optional<int> parseArguments(QCommandLineParser& parser, const QStringList& arguments,
-                                      const CliStreams& streams, const char* help) const;
+                                      const CliStreams& streams, const char* help,
+                                      int positionals = 0) const;
 
     // Writes an export file whole (or not at all) and confirms it on the error stream.
     // Returns ExitSuccess, or ExitFileError after a one-line reason.

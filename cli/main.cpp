@@ -1,5 +1,6 @@
 #include "cli/AssocCommand.h"
 #include "cli/CliRunner.h"
+#include "cli/InspectCommand.h"
 #include "cli/PentagonCommand.h"
 #include "cli/RootsCommand.h"
 #include "cli/SineCommand.h"
@@ -14,5 +15,6 @@ int main(int argc, char* argv[])
     runner.addCommand(std::make_unique<AssocCommand>());
     runner.addCommand(std::make_unique<SineCommand>());
     runner.addCommand(std::make_unique<PentagonCommand>());
+    runner.addCommand(std::make_unique<InspectCommand>());
     return runner.run(QCoreApplication::arguments(), {stdout, stderr});
 }

@@ -5,7 +5,7 @@ set -euo pipefail
 packages=(
     build-essential cmake ccache git
     qt6-base-dev libqt6opengl6-dev
-    libgmp-dev libgl-dev libglu1-mesa-dev libgl1-mesa-dri
+    libgmp-dev libmpfr-dev libgl-dev libglu1-mesa-dev libgl1-mesa-dri
     libgtest-dev libbenchmark-dev
     xvfb xauth fonts-liberation fontconfig locales
     clang-format valgrind

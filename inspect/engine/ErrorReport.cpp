@@ -1,0 +1,109 @@
+#include "inspect/engine/ErrorReport.h"
+
+#include "common/core/CLocaleScope.h"
+
+#include <cmath>
+
+namespace
+{
+
+constexpr int kMostDigitsCompared = 40;
+
+// An MPFR number that clears itself.
+class Real
+{
+public:
+    explicit Real(mpfr_prec_t bits = kReferenceBits) { mpfr_init2(number, bits); }
+    ~Real() { mpfr_clear(number); }
+    Real(const Real&) = delete;
+    Real& operator=(const Real&) = delete;
+    mpfr_ptr get() { return number; }
+
+private:
+    mpfr_t number;
+};
+
+std::string printed(const char* format, mpfr_srcptr number)
+{
+    const quillon::CLocaleScope cLocale;
+    char* text = nullptr;
+    if (mpfr_asprintf(&text, format, number) < 0) {
+        return "n/a";
+    }
+    std::string result(text);
+    mpfr_free_str(text);
+    return result;
+}
+
+// The significant digits and decimal exponent of `number` rounded to `digits` digits.
+std::pair<std::string, mpfr_exp_t> roundedDigits(mpfr_srcptr number, int digits)
+{
+    mpfr_exp_t exponent = 0;
+    char* text = mpfr_get_str(nullptr, &exponent, 10, size_t(digits), number, MPFR_RNDN);
+    std::pair<std::string, mpfr_exp_t> result(text, exponent);
+    mpfr_free_str(text);
+    return result;
+}
+
+std::string agreeingDigits(mpfr_srcptr value, mpfr_srcptr reference)
+{
+    if (mpfr_equal_p(value, reference)) {
+        return "exact";
+    }
+    if (mpfr_zero_p(value) || mpfr_zero_p(reference)) {
+        return "0";
+    }
+    int agreeing = 0;
+    while (agreeing < kMostDigitsCompared &&
+           roundedDigits(value, agreeing + 1) == roundedDigits(reference, agreeing + 1)) {
+        ++agreeing;
+    }
+    return std::to_string(agreeing);
+}
+
+} // namespace
+
+bool readReference(const std::string& text, mpfr_t reference)
+{
+    if (text.empty() || std::isspace(static_cast<unsigned char>(text.front()))) {
+        return false;
+    }
+    const quillon::CLocaleScope cLocale;
+    char* end = nullptr;
+    mpfr_set_prec(reference, kReferenceBits);
+    mpfr_strtofr(reference, text.c_str(), &end, 0, MPFR_RNDN);
+    return end == text.c_str() + text.size();
+}
+
+ErrorReport compareWithReference(double value, FloatFormat format, const mpfr_t reference)
+{
+    ErrorReport report;
+    report.reference = printed("%.40Rg", reference);
+    if (!std::isfinite(value) || !mpfr_number_p(reference)) {
+        report.absoluteError = report.relativeError = report.ulpError = "n/a";
+        report.correctDigits = "0";
+        return report;
+    }
+    Real exactValue(64);
+    mpfr_set_d(exactValue.get(), value, MPFR_RNDN);
+    Real difference;
+    mpfr_sub(difference.get(), exactValue.get(), reference, MPFR_RNDN);
+    report.absoluteError = printed("%.16Re", difference.get());
+
+    if (mpfr_zero_p(reference)) {
+        report.relativeError = "n/a";
+    } else {
+        Real relative;
+        mpfr_div(relative.get(), difference.get(), reference, MPFR_RNDN);
+        mpfr_abs(relative.get(), relative.get(), MPFR_RNDN);
+        report.relativeError = printed("%.16Re", relative.get());
+    }
+
+    // 2^e <= |reference| < 2^(e+1) with e = MPFR's exponent - 1.
+    const int binaryExponent = mpfr_zero_p(reference) ? -100000 : int(mpfr_get_exp(reference)) - 1;
+    Real inUlps;
+    mpfr_mul_2si(inUlps.get(), difference.get(), -ulpExponent(binaryExponent, format), MPFR_RNDN);
+    report.ulpError = printed("%.2Rf", inUlps.get());
+    report.correctDigits = agreeingDigits(exactValue.get(), reference);
+    return report;
+}

@@ -1,0 +1,80 @@
+#include "tests/cli/CliRun.h"
+#include "tests/inspect/ReportCases.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+CliRun inspect(QStringList arguments)
+{
+    arguments.prepend(QStringLiteral("inspect"));
+    return CliRun::of(arguments);
+}
+
+} // namespace
+
+// The same reports as the engine's, worked out independently; negative values are given as
+// they are typed, without "--".
+TEST(InspectCli, PrintsTheWholeReport)
+{
+    const std::vector<ReportCase> cases = readReportCases(QUILLON_INSPECT_DATA_DIR "/reports.txt");
+    ASSERT_EQ(cases.size(), 13u);
+    for (const ReportCase& testCase : cases) {
+        QStringList arguments = {QString::fromStdString(testCase.value), QStringLiteral("--as"),
+                                 QString::fromStdString(testCase.format)};
+        if (!testCase.reference.empty()) {
+            arguments << QStringLiteral("--reference")
+                      << QString::fromStdString(testCase.reference);
+        }
+        const CliRun run = inspect(arguments);
+        EXPECT_EQ(run.exitCode, 0) << testCase.value;
+        EXPECT_EQ(run.out.toStdString(), testCase.report) << testCase.value;
+        EXPECT_TRUE(run.err.isEmpty()) << testCase.value;
+    }
+}
+
+TEST(InspectCli, SingleIsTheDefaultAndNegativeReferencesRead)
+{
+    const CliRun run = inspect({"0.1"});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_TRUE(run.out.contains(QStringLiteral("exact decimal\t0.100000001490116119384765625\n")));
+    EXPECT_TRUE(run.out.contains(QStringLiteral("bits\t0x3dcccccd\n")));
+    const CliRun negative = inspect({"--reference", "-0.1", "-0.1"});
+    EXPECT_EQ(negative.exitCode, 0);
+    EXPECT_TRUE(negative.out.contains(QStringLiteral("bits\t0xbdcccccd\n")));
+    EXPECT_TRUE(negative.out.contains(QStringLiteral("error in ulps\t-0.20\n")));
+}
+
+TEST(InspectCli, BadInputIsAUsageError)
+{
+    const QList<QStringList> bad = {
+        {},
+        {"abc"},
+        {"0.1", "0.2"},
+        {"0.1", "--as", "quad"},
+        {"0.1", "--reference", "ten"},
+        {"1,5"},
+        {"0.1", "--bogus"},
+    };
+    for (const QStringList& arguments : bad) {
+        const CliRun run = inspect(arguments);
+        EXPECT_EQ(run.exitCode, 2) << arguments.join(' ').toStdString();
+        EXPECT_TRUE(run.out.isEmpty()) << arguments.join(' ').toStdString();
+        EXPECT_TRUE(run.err.startsWith(QStringLiteral("quillon-cli inspect: ")))
+            << arguments.join(' ').toStdString();
+        EXPECT_EQ(run.err.count(QLatin1Char('\n')), 1) << arguments.join(' ').toStdString();
+    }
+}
+
+TEST(InspectCli, HelpNamesEveryItem)
+{
+    const CliRun run = inspect({"--help"});
+    EXPECT_EQ(run.exitCode, 0);
+    for (const char* item :
+         {"format", "value", "kind", "sign", "biased exponent", "unbiased exponent", "significand",
+          "bits", "hex float", "exact decimal", "next down", "next up", "ulp", "reference",
+          "absolute error", "relative error", "error in ulps", "correct digits"}) {
+        EXPECT_TRUE(run.out.contains(QStringLiteral("\n  ") + QLatin1String(item) + ' ')) << item;
+    }
+}
