@@ -1,6 +1,7 @@
 #include "inspect/engine/ErrorReport.h"
 
 #include "common/core/CLocaleScope.h"
+#include "inspect/engine/MpfrNumber.h"
 
 #include <cmath>
 
@@ -8,20 +9,6 @@ namespace
 {
 
 constexpr int kMostDigitsCompared = 40;
-
-// An MPFR number that clears itself.
-class Real
-{
-public:
-    explicit Real(mpfr_prec_t bits = kReferenceBits) { mpfr_init2(number, bits); }
-    ~Real() { mpfr_clear(number); }
-    Real(const Real&) = delete;
-    Real& operator=(const Real&) = delete;
-    mpfr_ptr get() { return number; }
-
-private:
-    mpfr_t number;
-};
 
 std::string printed(const char* format, mpfr_srcptr number)
 {
@@ -84,16 +71,16 @@ ErrorReport compareWithReference(double value, FloatFormat format, const mpfr_t 
         report.correctDigits = "0";
         return report;
     }
-    Real exactValue(64);
+    MpfrNumber exactValue(64);
     mpfr_set_d(exactValue.get(), value, MPFR_RNDN);
-    Real difference;
+    MpfrNumber difference(kReferenceBits);
     mpfr_sub(difference.get(), exactValue.get(), reference, MPFR_RNDN);
     report.absoluteError = printed("%.16Re", difference.get());
 
     if (mpfr_zero_p(reference)) {
         report.relativeError = "n/a";
     } else {
-        Real relative;
+        MpfrNumber relative(kReferenceBits);
         mpfr_div(relative.get(), difference.get(), reference, MPFR_RNDN);
         mpfr_abs(relative.get(), relative.get(), MPFR_RNDN);
         report.relativeError = printed("%.16Re", relative.get());
@@ -101,7 +88,7 @@ ErrorReport compareWithReference(double value, FloatFormat format, const mpfr_t 
 
     // 2^e <= |reference| < 2^(e+1) with e = MPFR's exponent - 1.
     const int binaryExponent = mpfr_zero_p(reference) ? -100000 : int(mpfr_get_exp(reference)) - 1;
-    Real inUlps;
+    MpfrNumber inUlps(kReferenceBits);
     mpfr_mul_2si(inUlps.get(), difference.get(), -ulpExponent(binaryExponent, format), MPFR_RNDN);
     report.ulpError = printed("%.2Rf", inUlps.get());
     report.correctDigits = agreeingDigits(exactValue.get(), reference);

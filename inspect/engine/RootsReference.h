@@ -1,0 +1,15 @@
+#pragma once
+
+#include "inspect/engine/MpfrNumber.h"
+
+#include <gmp.h>
+
+#include <array>
+#include <optional>
+
+// The true values of the Roots grid's seven quantities, in its row order: b^2, 4ac,
+// sqrt(b^2 - 4ac), the root (-b + sqrt(b^2 - 4ac)) / 2a, its residual a x^2 + b x + c, the
+// root (-b - sqrt(b^2 - 4ac)) / 2a and its residual, worked out at kReferenceBits from the
+// coefficients exactly as held (not from their single or double copies). The residuals of the
+// true roots are 0. Nothing when b^2 < 4ac (no real roots).
+std::optional<std::array<MpfrNumber, 7>> rootsReference(mpf_srcptr a, mpf_srcptr b, mpf_srcptr c);
