@@ -15,6 +15,7 @@ const char* popSlotOf(AuxWindow window)
         SLOT(sine_popSelectionWindow()),    SLOT(sine_popStatusWindow()),
         SLOT(sine_popColorMapWindow()),     SLOT(sine_popSettingWindow()),
         SLOT(sine_popHelpWindow()),         SLOT(sine_popUserMenu()),
+        SLOT(popInspectorWindow()),
     };
     static_assert(std::size(popSlots) == static_cast<size_t>(AuxWindow::Count));
     return popSlots[static_cast<size_t>(window)];

@@ -5,8 +5,8 @@
 
 class QWidget;
 
-// The eighteen auxiliary windows of the four tabs, each opened by one pop slot of the main
-// window.
+// The eighteen auxiliary windows of the four tabs and the inspector, each opened by one pop
+// slot of the main window.
 enum class AuxWindow {
     RootsHelp,
     RootsUserMenu,
@@ -26,6 +26,7 @@ enum class AuxWindow {
     SineFocus,
     SineHelp,
     SineUserMenu,
+    Inspector,
     Count
 };
 

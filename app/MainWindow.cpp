@@ -1,6 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/GraphicsView.h"
+#include "app/InspectorPicker.h"
 #include "app/TabMenuSet.h"
 #include "assoc/gui/AssoColorMap.h"
 #include "assoc/gui/AssoFocusWindow.h"
@@ -9,6 +10,7 @@
 #include "assoc/gui/AssoSelectionWindow.h"
 #include "assoc/gui/AssoUserMenu.h"
 #include "common/gui/TabPageArea.h"
+#include "inspect/gui/InspectorWindow.h"
 #include "pentagon/gui/PentagonColorMap.h"
 #include "pentagon/gui/PentagonFocusWindow.h"
 #include "pentagon/gui/PentagonHelpWindow.h"
@@ -55,6 +57,7 @@ MainWindow::MainWindow(QWidget* parent)
     setUpPentagonTab();
     setUpAssoTab();
     setUpSineTab();
+    setUpInspector();
 
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MainWindow::tab_Index_Changed);
     tab_Index_Changed(RootsTab);
@@ -294,6 +297,18 @@ void MainWindow::connectSinePanel()
     connect(ui->sine_pause, &QPushButton::clicked, scene, &SineOpenGLScene::pause);
     connect(ui->sine_time_slider, &QSlider::valueChanged, scene,
             &SineOpenGLScene::setTimeStartpoint);
+}
+
+void MainWindow::setUpInspector()
+{
+    auto* inspector = new InspectorWindow();
+    installAuxiliaryWindow(AuxWindow::Inspector, inspector);
+    new InspectorPicker(inspector, *rootsPage, this);
+}
+
+void MainWindow::popInspectorWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::Inspector);
 }
 
 void MainWindow::installAuxiliaryWindow(AuxWindow window, QWidget* widget)

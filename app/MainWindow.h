@@ -85,6 +85,8 @@ public slots:
     void sine_saveTXTFile();
     void sine_saveCSVFile();
     void tab_Index_Changed(int index);
+    // "&Inspector ...", an addition at the end of every tab's last tool menu.
+    void popInspectorWindow();
     // The target of every "&Exit" entry: closes this window and every auxiliary window.
     void closeEvent();
 
@@ -100,6 +102,7 @@ private:
     void connectPentagonPanel();
     void setUpAssoTab();
     void setUpSineTab();
+    void setUpInspector();
     void connectSinePanel();
     void enableActionFor(const char* slot);
     GraphicsView* attachPlotView(QWidget* placeholder, QGraphicsScene* scene);

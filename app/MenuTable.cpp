@@ -1,6 +1,7 @@
 #include "app/MenuTable.h"
 
 #include <QObject>
+#include <cstring>
 
 const char* const kExitSlot = SLOT(closeEvent());
 
@@ -113,11 +114,27 @@ std::vector<MenuEntry> sineMenus()
     };
 }
 
+// "&Inspector ...", added after the last entry of the menu `menu` (each tab's last tool menu).
+std::vector<MenuEntry> withInspector(std::vector<MenuEntry> entries, const char* menu)
+{
+    auto last = entries.end();
+    for (auto entry = entries.begin(); entry != entries.end(); ++entry) {
+        if (std::strcmp(entry->menu, menu) == 0) {
+            last = entry + 1;
+        }
+    }
+    entries.insert(last,
+                   {menu, "&Inspector ...", "Inspect a number: its bits, exact value and error",
+                    NoKey, SLOT(popInspectorWindow()), QKeySequence(Qt::CTRL | Qt::Key_I)});
+    return entries;
+}
+
 } // namespace
 
 const std::vector<MenuEntry>& menuTable(TabIndex tab)
 {
-    static const std::vector<MenuEntry> tables[TabCount] = {rootsMenus(), pentagonMenus(),
-                                                            assoMenus(), sineMenus()};
+    static const std::vector<MenuEntry> tables[TabCount] = {
+        withInspector(rootsMenus(), "&Examples"), withInspector(pentagonMenus(), "&Tools"),
+        withInspector(assoMenus(), "&Tools"), withInspector(sineMenus(), "&Tools")};
     return tables[tab];
 }

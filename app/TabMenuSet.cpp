@@ -16,6 +16,8 @@ TabMenuSet::TabMenuSet(const std::vector<MenuEntry>& entries, QWidget* owner)
         action->setStatusTip(QObject::tr(entry.statusTip));
         if (entry.shortcut != QKeySequence::UnknownKey) {
             action->setShortcuts(entry.shortcut);
+        } else if (!entry.customShortcut.isEmpty()) {
+            action->setShortcut(entry.customShortcut);
         }
         QObject::connect(action, SIGNAL(triggered()), owner, entry.slot);
         menu->addAction(action);

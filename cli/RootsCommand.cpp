@@ -10,14 +10,6 @@
 namespace
 {
 
-const char* const kRowNames[kRootsRowCount] = {"b^2",
-                                               "4ac",
-                                               "sqrt(b^2 - 4ac)",
-                                               "large root",
-                                               "a*x1^2 + b*x1 + c",
-                                               "small root",
-                                               "a*x2^2 + b*x2 + c"};
-
 const char* const kHelp =
     "Usage: quillon-cli roots [--example 1|2|3] [--a TEXT] [--b TEXT] [--c TEXT] [--txt FILE]\n"
     "Solves a x^2 + b x + c = 0 four ways, as the Roots tab does, starting from a = 1,\n"
@@ -45,13 +37,15 @@ const Coefficient kCoefficients[] = {
 
 void printGrid(const RootsSolver& solver, std::FILE* out)
 {
-    std::fputs("quantity\tNaive Single P.\tCancellation Single P.\tNaive Double P.\t"
-               "Naive High P.\tagreement\n",
-               out);
+    std::fputs("quantity", out);
+    for (const char* heading : kRootsVariantNames) {
+        std::fprintf(out, "\t%s", heading);
+    }
+    std::fputs("\tagreement\n", out);
     const RootsGrid grid = solver.showResults();
     const RootsAgreements agreements = solver.classifyRows();
     for (int row = 0; row < kRootsRowCount; ++row) {
-        std::fputs(kRowNames[row], out);
+        std::fputs(kRootsRowNames[row], out);
         for (const std::string& cell : grid[row]) {
             std::fprintf(out, "\t%s", cell.c_str());
         }

@@ -18,6 +18,18 @@ enum RootsRow {
 // The columns: naive single, cancellation-free single, naive double, naive 256-bit.
 constexpr int kRootsVariantCount = 4;
 
+// The rows' quantities and the columns' headings, as the command line and the inspector name
+// them.
+inline constexpr const char* kRootsRowNames[kRootsRowCount] = {"b^2",
+                                                               "4ac",
+                                                               "sqrt(b^2 - 4ac)",
+                                                               "large root",
+                                                               "a*x1^2 + b*x1 + c",
+                                                               "small root",
+                                                               "a*x2^2 + b*x2 + c"};
+inline constexpr const char* kRootsVariantNames[kRootsVariantCount] = {
+    "Naive Single P.", "Cancellation Single P.", "Naive Double P.", "Naive High P."};
+
 // The text of every cell, [row][variant].
 using RootsGrid = std::array<std::array<std::string, kRootsVariantCount>, kRootsRowCount>;
 

@@ -48,6 +48,10 @@ public:
 
     const RootsQuantity& quantity(RootsRow row) const;
     bool isValid(int variant) const { return valid[variant]; }
+    // The coefficients as held (256 bits, read from the fields' decimals).
+    const HighFloat& highA() const { return a; }
+    const HighFloat& highB() const { return b; }
+    const HighFloat& highC() const { return c; }
     // The single-precision copies of a, b, c made by the last run.
     float singleA() const { return af; }
     float singleB() const { return bf; }

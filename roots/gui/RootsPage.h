@@ -39,6 +39,9 @@ public:
     // single-precision copies of a, b, c back into the fields.
     void useExample(int number);
 
+    // The grid's label that shows quantity `row` of column `variant`.
+    QLabel* valueCell(RootsRow row, int variant) const { return grid[row + 1][variant + 1]; }
+
     // Writes the text export to `fileName`; returns why it failed, or an empty text.
     QString saveTextData(const QString& fileName) const;
 

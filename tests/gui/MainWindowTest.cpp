@@ -93,6 +93,21 @@ const QList<Expected> kSineMenus = {
     {"&Help", "&Help ...", "Show Help", None},
 };
 
+// The described entries with the one Quillon adds, "&Inspector ...", after the last entry of
+// `menu` (each tab's last tool menu).
+QList<Expected> withInspector(QList<Expected> entries, const char* menu)
+{
+    qsizetype last = 0;
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        if (QByteArray(entries[i].menu) == menu) {
+            last = i + 1;
+        }
+    }
+    entries.insert(
+        last, {menu, "&Inspector ...", "Inspect a number: its bits, exact value and error", None});
+    return entries;
+}
+
 // The menu bar flattened into the same form as the expectations.
 QList<Expected> menuBarEntries(QMainWindow& window, QList<QByteArray>& storage)
 {
@@ -202,10 +217,10 @@ void MainWindowTest::menuBarMatchesEachTab_data()
 {
     QTest::addColumn<int>("tab");
     QTest::addColumn<QList<Expected>>("expected");
-    QTest::newRow("Roots") << 0 << kRootsMenus;
-    QTest::newRow("Pentagon") << 1 << kPentagonMenus;
-    QTest::newRow("Associative Law") << 2 << kAssoMenus;
-    QTest::newRow("Sine") << 3 << kSineMenus;
+    QTest::newRow("Roots") << 0 << withInspector(kRootsMenus, "&Examples");
+    QTest::newRow("Pentagon") << 1 << withInspector(kPentagonMenus, "&Tools");
+    QTest::newRow("Associative Law") << 2 << withInspector(kAssoMenus, "&Tools");
+    QTest::newRow("Sine") << 3 << withInspector(kSineMenus, "&Tools");
 }
 
 void MainWindowTest::menuBarMatchesEachTab()

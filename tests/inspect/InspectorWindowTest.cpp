@@ -1,0 +1,141 @@
+#include "inspect/gui/InspectorWindow.h"
+#include "app/MainWindow.h"
+#include "tests/gui/GuiTestSupport.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QtTest>
+
+class InspectorWindowTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void everyTabEndsItsLastToolMenuWithTheInspector();
+    void clickingARootsCellInspectsIt();
+    void cellsWithoutAnIeeeValueSayWhy();
+
+private:
+    InspectorWindow* inspector() const;
+    QLabel* cell(const char* name) const;
+    QString reported(const char* item) const;
+
+    std::unique_ptr<MainWindow> window;
+};
+
+void InspectorWindowTest::init()
+{
+    window = std::make_unique<MainWindow>();
+    window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+}
+
+void InspectorWindowTest::cleanup()
+{
+    window.reset();
+}
+
+InspectorWindow* InspectorWindowTest::inspector() const
+{
+    for (QWidget* topLevel : QApplication::topLevelWidgets()) {
+        if (auto* found = qobject_cast<InspectorWindow*>(topLevel)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+QLabel* InspectorWindowTest::cell(const char* name) const
+{
+    return window->findChild<QLabel*>(QString::fromLatin1(name));
+}
+
+// The value of one "name<TAB>value" line of the report the window shows.
+QString InspectorWindowTest::reported(const char* item) const
+{
+    const QString text =
+        inspector()->findChild<QPlainTextEdit*>(QStringLiteral("inspector_report"))->toPlainText();
+    for (const QString& line : text.split(QLatin1Char('\n'))) {
+        if (line.startsWith(QLatin1String(item) + QLatin1Char('\t'))) {
+            return line.section(QLatin1Char('\t'), 1);
+        }
+    }
+    return QStringLiteral("<no %1>").arg(QLatin1String(item));
+}
+
+// Added after every described entry of the last tool menu, with Ctrl+I, on every tab.
+void InspectorWindowTest::everyTabEndsItsLastToolMenuWithTheInspector()
+{
+    auto* tabs = window->findChild<QTabWidget*>(QStringLiteral("tabWidget"));
+    const char* lastToolMenus[] = {"&Examples", "&Tools", "&Tools", "&Tools"};
+    for (int tab = 0; tab < 4; ++tab) {
+        tabs->setCurrentIndex(tab);
+        const QList<QAction*> menus = window->menuBar()->actions();
+        QMenu* help = menus.last()->menu();
+        QMenu* tools = menus[menus.size() - 2]->menu();
+        QCOMPARE(help->title(), QStringLiteral("&Help"));
+        QCOMPARE(tools->title(), QString::fromLatin1(lastToolMenus[tab]));
+        QAction* last = tools->actions().last();
+        QCOMPARE(last->text(), QStringLiteral("&Inspector ..."));
+        QCOMPARE(last->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_I));
+        QVERIFY(last->isEnabled());
+    }
+    QVERIFY(popMenuWindow(*window, QStringLiteral("&Tools"), QStringLiteral("&Inspector ..."),
+                          QStringLiteral("Inspector")) != nullptr);
+}
+
+// Example 2 (x^2 + 10000 x + 1): naive single precision computes b^2 - 4ac = 1e8 - 4 as 1e8
+// (a tie between 99999992 and 1e8, to even), so its root (-b + sqrt(b^2 - 4ac)) / 2a comes out
+// 0 against the true -1.0000000100000002e-4: every digit wrong, 13.7 million ulps away.
+void InspectorWindowTest::clickingARootsCellInspectsIt()
+{
+    QAction* example = menuBarAction(*window, QStringLiteral("&Examples"),
+                                     QStringLiteral("&Example 2: b^2 >> 4ac"));
+    QVERIFY(example != nullptr);
+    example->trigger();
+    QTest::mouseClick(cell("roots_root1_label_1"), Qt::LeftButton);
+    QVERIFY(inspector() != nullptr);
+    QTRY_VERIFY(inspector()->isVisible());
+    QCOMPARE(inspector()->findChild<QLabel*>(QStringLiteral("inspector_source"))->text(),
+             QStringLiteral("Roots, Naive Single P., large root"));
+    QCOMPARE(reported("format"), QStringLiteral("binary32"));
+    QCOMPARE(reported("kind"), QStringLiteral("zero"));
+    QCOMPARE(reported("reference"),
+             QStringLiteral("-0.0001000000010000000200000005000000140000004"));
+    QCOMPARE(reported("absolute error"), QStringLiteral("1.0000000100000002e-04"));
+    QCOMPARE(reported("relative error"), QStringLiteral("1.0000000000000000e+00"));
+    QCOMPARE(reported("error in ulps"), QStringLiteral("13743895.48"));
+    QCOMPARE(reported("correct digits"), QStringLiteral("0"));
+
+    // The double column's b^2 is exact: 1e8 with every digit agreeing.
+    QTest::mouseClick(cell("roots_b2_label_3"), Qt::LeftButton);
+    QCOMPARE(reported("format"), QStringLiteral("binary64"));
+    QCOMPARE(reported("exact decimal"), QStringLiteral("100000000"));
+    QCOMPARE(reported("correct digits"), QStringLiteral("exact"));
+
+    QTest::mouseClick(inspector()->copyButton(), Qt::LeftButton);
+    const QString copied = QApplication::clipboard()->text();
+    QVERIFY(copied.startsWith(QStringLiteral("Roots, Naive Double P., b^2\nformat\tbinary64\n")));
+    QVERIFY(copied.contains(QStringLiteral("\ncorrect digits\texact\n")));
+    QVERIFY(copied.contains(QStringLiteral("MPFR at 1024 bits")));
+}
+
+void InspectorWindowTest::cellsWithoutAnIeeeValueSayWhy()
+{
+    QTest::mouseClick(cell("roots_root1_label_4"), Qt::LeftButton);
+    QTRY_VERIFY(inspector()->isVisible());
+    QCOMPARE(inspector()->findChild<QLabel*>(QStringLiteral("inspector_source"))->text(),
+             QStringLiteral("Roots, Naive High P., large root"));
+    QVERIFY(inspector()->reportText().contains(QStringLiteral("256-bit")));
+}
+
+QTEST_MAIN(InspectorWindowTest)
+#include "InspectorWindowTest.moc"
