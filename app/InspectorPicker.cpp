@@ -1,5 +1,7 @@
 #include "app/InspectorPicker.h"
 
+#include "assoc/gui/AssoOpenGLScene.h"
+#include "inspect/gui/AssoInspection.h"
 #include "inspect/gui/InspectorWindow.h"
 #include "inspect/gui/RootsInspection.h"
 #include "roots/gui/RootsPage.h"
@@ -8,10 +10,19 @@
 #include <QLabel>
 #include <QMouseEvent>
 
-InspectorPicker::InspectorPicker(InspectorWindow* window, const RootsPage& rootsPage,
-                                 QObject* parent)
-    : QObject(parent), window(window), rootsPage(rootsPage)
+namespace
 {
+
+// How near a node a click must land to pick it, in pixels.
+constexpr float kPickRadius = 10.0f;
+
+} // namespace
+
+InspectorPicker::InspectorPicker(InspectorWindow* window, const RootsPage& rootsPage,
+                                 AssoOpenGLScene* assoScene, QObject* parent)
+    : QObject(parent), window(window), rootsPage(rootsPage), assoScene(assoScene)
+{
+    connect(assoScene, &AssoOpenGLScene::plotClicked, this, &InspectorPicker::pickAssoNode);
     for (int row = 0; row < kRootsRowCount; ++row) {
         for (int variant = 0; variant < kRootsVariantCount; ++variant) {
             rootsPage.valueCell(RootsRow(row), variant)->installEventFilter(this);
@@ -45,6 +56,20 @@ void InspectorPicker::pickRootsCell(int row, int variant)
         window->showNothing(rootsCellSource(RootsRow(row), variant), std::get<QString>(picked));
     }
     showWindow();
+}
+
+void InspectorPicker::pickAssoNode(QPointF position)
+{
+    if (!window->isVisible()) {
+        return;
+    }
+    const auto node = assoScene->nodeNear(position, kPickRadius);
+    if (!node) {
+        return;
+    }
+    assoScene->markNode(node);
+    window->inspect(assoInspection(assoScene->sequences(), assoScene->getX0(), assoScene->getR(),
+                                   node->first, node->second));
 }
 
 void InspectorPicker::showWindow()

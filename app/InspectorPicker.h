@@ -2,25 +2,31 @@
 
 #include <QObject>
 
+class AssoOpenGLScene;
 class InspectorWindow;
+class QPointF;
 class RootsPage;
 
 // Turns the gestures that pick a number into inspections: a click on a cell of the Roots
-// grid shows that cell in the inspector (and the inspector itself).
+// grid shows that cell in the inspector (and the inspector itself); while the inspector is
+// open, a click near a node of the associative-law plot shows that node and rings it.
 class InspectorPicker : public QObject
 {
     Q_OBJECT
 
 public:
-    InspectorPicker(InspectorWindow* window, const RootsPage& rootsPage, QObject* parent);
+    InspectorPicker(InspectorWindow* window, const RootsPage& rootsPage, AssoOpenGLScene* assoScene,
+                    QObject* parent);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void pickRootsCell(int row, int variant);
+    void pickAssoNode(QPointF position);
     void showWindow();
 
     InspectorWindow* window;
     const RootsPage& rootsPage;
+    AssoOpenGLScene* assoScene;
 };

@@ -70,6 +70,7 @@ void AssoOpenGLScene::setColor(int order, const quillon::ColorTriple& color)
 void AssoOpenGLScene::computeSequences()
 {
     ::computeSequences(R, X0, N, results);
+    markedNode.reset();
 }
 
 void AssoOpenGLScene::refreshPanel()
@@ -479,9 +480,11 @@ void AssoOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
     }
     if (event->button() == Qt::LeftButton) {
         mouse.press(float(event->scenePos().x()), float(event->scenePos().y()));
+        pressHitLegend = false;
         if (showLabels) {
             const int row = quillon::plotLegendRowAt(mouse.y(), viewHeight);
             if (row >= 0 && row < kAssoOrderCount) {
+                pressHitLegend = true;
                 needFunc[row] = !needFunc[row];
                 syncSelectionWindow();
                 repaint();
@@ -512,11 +515,49 @@ void AssoOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
         return;
     }
     const quillon::PlotMouse::View view{window, yMin, yMax, N, xMin, xMax, viewWidth, viewHeight};
-    if (mouse.release(event->button(), float(event->scenePos().x()), float(event->scenePos().y()),
-                      view)) {
+    const float x = float(event->scenePos().x());
+    const float y = float(event->scenePos().y());
+    const bool click =
+        event->button() == Qt::LeftButton && mouse.isClickAt(x, y) && !pressHitLegend;
+    if (mouse.release(event->button(), x, y, view)) {
         refreshFocusWindow();
     }
     event->accept();
+    repaint();
+    if (click) {
+        emit plotClicked(event->scenePos());
+    }
+}
+
+std::optional<std::pair<int, int>> AssoOpenGLScene::nodeNear(QPointF position, float radius) const
+{
+    const AssoPlotContent content = plotContent();
+    std::optional<std::pair<int, int>> nearest;
+    float nearestDistance = radius;
+    for (int k = 0; k < kAssoOrderCount; ++k) {
+        if (!needFunc[k]) {
+            continue;
+        }
+        const int stop = content.curveEnd(k);
+        for (int n = std::max(window.start, 0); n < stop && n <= window.end; ++n) {
+            if (!window.displays(n)) {
+                continue;
+            }
+            const float distance =
+                std::hypot(nodePixelX(n) - float(position.x()),
+                           valuePixelY(*content.plotted(k, n)) - float(position.y()));
+            if (distance <= nearestDistance) {
+                nearestDistance = distance;
+                nearest = std::pair{k, n};
+            }
+        }
+    }
+    return nearest;
+}
+
+void AssoOpenGLScene::markNode(std::optional<std::pair<int, int>> node)
+{
+    markedNode = node;
     repaint();
 }
 
@@ -585,6 +626,22 @@ void AssoOpenGLScene::drawCurves() const
 
 // ---- foreground ---------------------------------------------------------------------------
 
+// A black ring around the node the inspector shows, while it is displayed.
+void AssoOpenGLScene::drawNodeMark(QPainter* painter) const
+{
+    if (!markedNode) {
+        return;
+    }
+    const auto [order, n] = *markedNode;
+    const std::optional<float> plotted = plotContent().plotted(order, n);
+    if (!plotted || !window.displays(n) || n < window.start || n > window.end) {
+        return;
+    }
+    painter->setPen(QPen(Qt::black, 2));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawEllipse(QPointF(nodePixelX(n), valuePixelY(*plotted)), 7.0, 7.0);
+}
+
 void AssoOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
 {
     viewWidth = int(rect.width());
@@ -612,6 +669,7 @@ void AssoOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
         drawLegend(painter);
     }
     drawSpreadReadout(painter);
+    drawNodeMark(painter);
     painter->restore();
 }
 

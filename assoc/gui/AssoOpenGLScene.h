@@ -56,11 +56,21 @@ public:
     // The square of the error icon of iteration n in view pixels.
     QRectF errorIconRect(int n) const;
 
+    // The displayed node of a visible curve nearest a point of the view, within `radius`
+    // pixels: the nearest node of the nearest curve, as (order, iteration).
+    std::optional<std::pair<int, int>> nodeNear(QPointF position, float radius) const;
+    // Rings one node of the plot (the one the inspector shows); none: no ring.
+    void markNode(std::optional<std::pair<int, int>> node);
+
     // The module's files; each returns why it failed (and then changed nothing), or "".
     QString saveColorFile(const QString& path) const;
     QString loadColorFile(const QString& path);
     QString saveTextData(const QString& path) const;
     QString saveCsvData(const QString& path) const;
+
+signals:
+    // A left click on the plot that neither dragged nor hit the legend, in view pixels.
+    void plotClicked(QPointF position);
 
 public slots:
     void updateMaxItera();
@@ -134,6 +144,7 @@ private:
     void drawErrorMessages(QPainter* painter) const;
     void drawLegend(QPainter* painter) const;
     void drawSpreadReadout(QPainter* painter) const;
+    void drawNodeMark(QPainter* painter) const;
 
     AssoSelectionWindow* selectionWindow = nullptr;
     AssoFocusWindow* focusWindow = nullptr;
@@ -167,6 +178,8 @@ private:
     bool showErrorMessages = false;
     quillon::PlotMouse mouse;
     int highlightedFunc = -1;
+    bool pressHitLegend = false;
+    std::optional<std::pair<int, int>> markedNode;
     float highlightedDepth = 3.0f;
     float normalDepth = 2.0f;
     float gridDepth = 0.0f;

@@ -18,6 +18,11 @@ void PlotMouse::press(float x, float y)
     pressY = y;
 }
 
+bool PlotMouse::isClickAt(float x, float y) const
+{
+    return pressX != -1.0f && std::fabs(x - pressX) < 1e-11f && std::fabs(y - pressY) < 1e-11f;
+}
+
 bool PlotMouse::release(Qt::MouseButton button, float x, float y, const View& view)
 {
     if (button == Qt::RightButton) {

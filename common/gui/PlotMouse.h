@@ -35,6 +35,9 @@ public:
         int height;
     };
 
+    // Whether a left-button release at (x, y) ends a press without moving: a click, not a drag.
+    bool isClickAt(float x, float y) const;
+
     // A left-button release zooms to the dragged rectangle when the pointer moved from the
     // press (by at least 1e-11 either way) and ends the drag; a right-button release undoes one
     // zoom. Returns true when the window or the range changed.

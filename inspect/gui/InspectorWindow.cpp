@@ -107,7 +107,10 @@ void InspectorWindow::inspect(const Inspection& inspection)
     const QString decimal = lineValue(lines, "exact decimal");
     decimalLabel->setText(highlightedDecimal(
         decimal, agreeing == QLatin1String("exact") ? int(decimal.size()) : agreeing.toInt()));
-    const QString text = QString::fromStdString(::reportText(lines));
+    QString text = QString::fromStdString(::reportText(lines));
+    if (!inspection.context.empty()) {
+        text += QLatin1Char('\n') + QString::fromStdString(::reportText(inspection.context));
+    }
     reportView->setPlainText(text);
     noteLabel->setText(inspection.referenceNote);
     report = inspection.source + QLatin1Char('\n') + text +

@@ -1,5 +1,8 @@
 #include "inspect/gui/InspectorWindow.h"
+#include "app/GraphicsView.h"
 #include "app/MainWindow.h"
+#include "assoc/gui/AssoOpenGLScene.h"
+#include "common/core/PlotXWindow.h"
 #include "tests/gui/GuiTestSupport.h"
 
 #include <QAction>
@@ -10,6 +13,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTimer>
 #include <QtTest>
 
 class InspectorWindowTest : public QObject
@@ -22,6 +26,7 @@ private slots:
     void everyTabEndsItsLastToolMenuWithTheInspector();
     void clickingARootsCellInspectsIt();
     void cellsWithoutAnIeeeValueSayWhy();
+    void clickingAnAssociativeLawNodeInspectsIt();
 
 private:
     InspectorWindow* inspector() const;
@@ -135,6 +140,48 @@ void InspectorWindowTest::cellsWithoutAnIeeeValueSayWhy()
     QCOMPARE(inspector()->findChild<QLabel*>(QStringLiteral("inspector_source"))->text(),
              QStringLiteral("Roots, Naive High P., large root"));
     QVERIFY(inspector()->reportText().contains(QStringLiteral("256-bit")));
+}
+
+// The default run (X0 = 0.5, R = 3) at iteration 30: the true value 0.0463994768... lies in
+// [2^-5, 2^-4), where a single-precision ulp is 2^-28. The five orders, worked out step by step
+// in single precision, are all hundreds of millions of ulps away.
+void InspectorWindowTest::clickingAnAssociativeLawNodeInspectsIt()
+{
+    auto* view = qobject_cast<GraphicsView*>(showPlotTab(*window, 2, "associativelaw_VisWindow"));
+    QVERIFY(view != nullptr);
+    window->findChild<QTimer*>(QStringLiteral("associativelaw_timer"))->stop();
+    auto* scene = qobject_cast<AssoOpenGLScene*>(view->scene());
+    // The window of 21 nodes slides forward tick by tick.
+    scene->setPaused(false);
+    const quillon::PlotXWindow& shown = scene->xWindow();
+    for (int tick = 0; tick < 100 && !shown.displays(30); ++tick) {
+        scene->runningMan();
+    }
+    QVERIFY(shown.displays(30));
+    const QSize size = view->viewport()->size();
+    const float value = scene->sequences().values[0][30];
+    const QPoint node(
+        qRound(size.width() * (quillon::plotNodeX(shown, 30, -1.5f, 1.5f) + 1.5f) / 3.0f),
+        qRound(size.height() * (scene->getYMax() - value) / (scene->getYMax() - scene->getYMin())));
+
+    // With the inspector closed a click picks nothing.
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, node);
+    QVERIFY(inspector() == nullptr || !inspector()->isVisible());
+    QVERIFY(popMenuWindow(*window, QStringLiteral("&Tools"), QStringLiteral("&Inspector ..."),
+                          QStringLiteral("Inspector")) != nullptr);
+    QVERIFY(inspector()->reportText().isEmpty());
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, node + QPoint(3, -2));
+    QCOMPARE(inspector()->findChild<QLabel*>(QStringLiteral("inspector_source"))->text(),
+             QStringLiteral("Associative Law, order 1, iteration 30"));
+    QCOMPARE(reported("reference"), QStringLiteral("0.04639947684257835009848971761636654640313"));
+    QCOMPARE(reported("order 1"), QStringLiteral("1.2032132 (310529823.28 ulps)"));
+    QCOMPARE(reported("order 2"), QStringLiteral("0.40639496 (96635551.28 ulps)"));
+    QCOMPARE(reported("order 3"), QStringLiteral("1.316641 (340977855.28 ulps)"));
+    QCOMPARE(reported("order 4"), QStringLiteral("1.1374462 (292875615.28 ulps)"));
+    QCOMPARE(reported("order 5"), QStringLiteral("0.22457862 (47829599.28 ulps)"));
+    QVERIFY(inspector()->reportText().contains(QStringLiteral("agrees")));
+    // The click zoomed nothing.
+    QCOMPARE(scene->zoomDepth(), 0);
 }
 
 QTEST_MAIN(InspectorWindowTest)
