@@ -2,8 +2,8 @@
 
 #include "app/MainWindow.h"
 
+#include <QApplication>
 #include <QDir>
-#include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
 #include <QTest>
@@ -17,7 +17,15 @@ bool ScreenshotTaker::take(MainWindow& window, const QString& fileName,
     arrange(window);
     // Long enough for every OpenGL view to finish its frames under software rendering.
     QTest::qWait(700);
-    const QPixmap shot = window.screen()->grabWindow(window.winId());
+    // The main window, and any tool window a scenario opened beside or over it.
+    QRect area = window.frameGeometry();
+    for (QWidget* topLevel : QApplication::topLevelWidgets()) {
+        if (topLevel != &window && topLevel->isVisible() && topLevel->isWindow()) {
+            area |= topLevel->frameGeometry();
+        }
+    }
+    const QPixmap shot =
+        window.screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
     const QString path = QDir(outputFolder).filePath(fileName);
     if (shot.isNull() || !shot.save(path)) {
         std::fprintf(stderr, "cannot save the screenshot %s\n", qPrintable(path));

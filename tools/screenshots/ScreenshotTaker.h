@@ -12,7 +12,8 @@ class ScreenshotTaker
 public:
     explicit ScreenshotTaker(QString outputFolder);
 
-    // Runs `arrange` on the window, lets it paint, and saves the window as `fileName`.
+    // Runs `arrange` on the window, lets it paint, and saves as `fileName` the screen under the
+    // window and every other window left visible.
     bool take(MainWindow& window, const QString& fileName,
               const std::function<void(MainWindow&)>& arrange) const;
 

@@ -1,5 +1,8 @@
 // Saves the README's screenshots of the program into the folder named on the command line.
+#include "app/GraphicsView.h"
 #include "app/MainWindow.h"
+#include "assoc/gui/AssoOpenGLScene.h"
+#include "common/core/PlotXWindow.h"
 #include "tools/screenshots/ScreenshotTaker.h"
 
 #include <QApplication>
@@ -14,6 +17,35 @@ namespace
 void showTab(MainWindow& window, int index)
 {
     window.findChild<QTabWidget*>(QStringLiteral("tabWidget"))->setCurrentIndex(index);
+}
+
+// The default associative-law run with its window slid on to iterations 20 .. 40, order 1's
+// node at iteration 30 picked in the inspector, which sits over the control panel.
+void inspectIterationThirty(MainWindow& window)
+{
+    showTab(window, AssoTab);
+    QWidget* placeholder = window.findChild<QWidget*>(QStringLiteral("associativelaw_VisWindow"));
+    auto* view = placeholder->findChild<GraphicsView*>();
+    auto* scene = qobject_cast<AssoOpenGLScene*>(view->scene());
+    scene->setPaused(false);
+    while (scene->xWindow().end < 40) {
+        scene->runningMan();
+    }
+    scene->setPaused(true);
+    window.popInspectorWindow();
+    for (QWidget* topLevel : QApplication::topLevelWidgets()) {
+        if (topLevel->windowTitle() == QLatin1String("Inspector")) {
+            topLevel->setGeometry(600, 190, 680, 640);
+        }
+    }
+    QTest::qWait(300);
+    const QSize size = view->viewport()->size();
+    const float value = scene->sequences().values[0][30];
+    const QPoint node(
+        qRound(size.width() * (quillon::plotNodeX(scene->xWindow(), 30, -1.5f, 1.5f) + 1.5f) /
+               3.0f),
+        qRound(size.height() * (scene->getYMax() - value) / (scene->getYMax() - scene->getYMin())));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, node);
 }
 
 } // namespace
@@ -78,6 +110,8 @@ int main(int argc, char* argv[])
              }
              QTest::qWait(3000);
          }},
+        // Last: the inspector stays open.
+        {"inspector-associative-law.png", inspectIterationThirty},
     };
     for (const Scene& scene : scenes) {
         if (!taker.take(window, QString::fromLatin1(scene.fileName), scene.arrange)) {
