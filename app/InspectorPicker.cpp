@@ -69,7 +69,7 @@ void InspectorPicker::pickAssoNode(QPointF position)
     }
     assoScene->markNode(node);
     window->inspect(assoInspection(assoScene->sequences(), assoScene->getX0(), assoScene->getR(),
-                                   node->first, node->second));
+                                   node->curve, node->index));
 }
 
 void InspectorPicker::showWindow()

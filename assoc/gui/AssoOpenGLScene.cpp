@@ -529,33 +529,28 @@ void AssoOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
     }
 }
 
-std::optional<std::pair<int, int>> AssoOpenGLScene::nodeNear(QPointF position, float radius) const
+std::optional<quillon::PlotNode> AssoOpenGLScene::nodeNear(QPointF position, float radius) const
 {
     const AssoPlotContent content = plotContent();
-    std::optional<std::pair<int, int>> nearest;
-    float nearestDistance = radius;
-    for (int k = 0; k < kAssoOrderCount; ++k) {
-        if (!needFunc[k]) {
-            continue;
-        }
-        const int stop = content.curveEnd(k);
-        for (int n = std::max(window.start, 0); n < stop && n <= window.end; ++n) {
-            if (!window.displays(n)) {
-                continue;
-            }
-            const float distance =
-                std::hypot(nodePixelX(n) - float(position.x()),
-                           valuePixelY(*content.plotted(k, n)) - float(position.y()));
-            if (distance <= nearestDistance) {
-                nearestDistance = distance;
-                nearest = std::pair{k, n};
+    const auto drawn = [&](int k) {
+        std::vector<int> indices;
+        if (needFunc[k]) {
+            const int stop = content.curveEnd(k);
+            for (int n = std::max(window.start, 0); n < stop && n <= window.end; ++n) {
+                if (window.displays(n)) {
+                    indices.push_back(n);
+                }
             }
         }
-    }
-    return nearest;
+        return indices;
+    };
+    const auto pixel = [&](int k, int n) {
+        return QPointF(nodePixelX(n), valuePixelY(*content.plotted(k, n)));
+    };
+    return quillon::nearestPlotNode(position, radius, kAssoOrderCount, drawn, pixel);
 }
 
-void AssoOpenGLScene::markNode(std::optional<std::pair<int, int>> node)
+void AssoOpenGLScene::markNode(std::optional<quillon::PlotNode> node)
 {
     markedNode = node;
     repaint();
@@ -632,14 +627,11 @@ void AssoOpenGLScene::drawNodeMark(QPainter* painter) const
     if (!markedNode) {
         return;
     }
-    const auto [order, n] = *markedNode;
-    const std::optional<float> plotted = plotContent().plotted(order, n);
-    if (!plotted || !window.displays(n) || n < window.start || n > window.end) {
-        return;
+    const int n = markedNode->index;
+    const std::optional<float> plotted = plotContent().plotted(markedNode->curve, n);
+    if (plotted && window.displays(n)) {
+        quillon::drawPlotNodeRing(painter, QPointF(nodePixelX(n), valuePixelY(*plotted)));
     }
-    painter->setPen(QPen(Qt::black, 2));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawEllipse(QPointF(nodePixelX(n), valuePixelY(*plotted)), 7.0, 7.0);
 }
 
 void AssoOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)

@@ -7,6 +7,7 @@
 #include "common/gui/IndexLabels.h"
 #include "common/gui/OpenGLPlotScene.h"
 #include "common/gui/PlotMouse.h"
+#include "common/gui/PlotNodePick.h"
 
 #include <QImage>
 #include <QString>
@@ -56,11 +57,11 @@ public:
     // The square of the error icon of iteration n in view pixels.
     QRectF errorIconRect(int n) const;
 
-    // The displayed node of a visible curve nearest a point of the view, within `radius`
-    // pixels: the nearest node of the nearest curve, as (order, iteration).
-    std::optional<std::pair<int, int>> nodeNear(QPointF position, float radius) const;
+    // The drawn node nearest a point of the view within `radius` pixels: curve = order,
+    // index = iteration.
+    std::optional<quillon::PlotNode> nodeNear(QPointF position, float radius) const;
     // Rings one node of the plot (the one the inspector shows); none: no ring.
-    void markNode(std::optional<std::pair<int, int>> node);
+    void markNode(std::optional<quillon::PlotNode> node);
 
     // The module's files; each returns why it failed (and then changed nothing), or "".
     QString saveColorFile(const QString& path) const;
@@ -179,7 +180,7 @@ private:
     quillon::PlotMouse mouse;
     int highlightedFunc = -1;
     bool pressHitLegend = false;
-    std::optional<std::pair<int, int>> markedNode;
+    std::optional<quillon::PlotNode> markedNode;
     float highlightedDepth = 3.0f;
     float normalDepth = 2.0f;
     float gridDepth = 0.0f;

@@ -1,0 +1,37 @@
+#include "common/gui/PlotNodePick.h"
+
+#include <QPainter>
+#include <cmath>
+
+namespace quillon
+{
+
+std::optional<PlotNode> nearestPlotNode(QPointF position, float radius, int curveCount,
+                                        const std::function<std::vector<int>(int)>& drawnIndices,
+                                        const std::function<QPointF(int, int)>& pixelOf)
+{
+    std::optional<PlotNode> nearest;
+    double nearestDistance = radius;
+    for (int curve = 0; curve < curveCount; ++curve) {
+        for (const int index : drawnIndices(curve)) {
+            const QPointF offset = pixelOf(curve, index) - position;
+            const double distance = std::hypot(offset.x(), offset.y());
+            if (distance <= nearestDistance) {
+                nearestDistance = distance;
+                nearest = PlotNode{curve, index};
+            }
+        }
+    }
+    return nearest;
+}
+
+void drawPlotNodeRing(QPainter* painter, QPointF centre)
+{
+    painter->save();
+    painter->setPen(QPen(Qt::black, 2));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawEllipse(centre, 7.0, 7.0);
+    painter->restore();
+}
+
+} // namespace quillon
