@@ -4,7 +4,9 @@
 #include "inspect/gui/AssoInspection.h"
 #include "inspect/gui/InspectorWindow.h"
 #include "inspect/gui/RootsInspection.h"
+#include "inspect/gui/SineInspection.h"
 #include "roots/gui/RootsPage.h"
+#include "sine/gui/SineOpenGLScene.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -19,10 +21,13 @@ constexpr float kPickRadius = 10.0f;
 } // namespace
 
 InspectorPicker::InspectorPicker(InspectorWindow* window, const RootsPage& rootsPage,
-                                 AssoOpenGLScene* assoScene, QObject* parent)
-    : QObject(parent), window(window), rootsPage(rootsPage), assoScene(assoScene)
+                                 AssoOpenGLScene* assoScene, SineOpenGLScene* sineScene,
+                                 QObject* parent)
+    : QObject(parent), window(window), rootsPage(rootsPage), assoScene(assoScene),
+      sineScene(sineScene)
 {
     connect(assoScene, &AssoOpenGLScene::plotClicked, this, &InspectorPicker::pickAssoNode);
+    connect(sineScene, &SineOpenGLScene::plotClicked, this, &InspectorPicker::pickSineNode);
     for (int row = 0; row < kRootsRowCount; ++row) {
         for (int variant = 0; variant < kRootsVariantCount; ++variant) {
             rootsPage.valueCell(RootsRow(row), variant)->installEventFilter(this);
@@ -70,6 +75,19 @@ void InspectorPicker::pickAssoNode(QPointF position)
     assoScene->markNode(node);
     window->inspect(assoInspection(assoScene->sequences(), assoScene->getX0(), assoScene->getR(),
                                    node->curve, node->index));
+}
+
+void InspectorPicker::pickSineNode(QPointF position)
+{
+    if (!window->isVisible()) {
+        return;
+    }
+    const auto node = sineScene->nodeNear(position, kPickRadius);
+    if (!node) {
+        return;
+    }
+    sineScene->markNode(node);
+    window->inspect(sineInspection(sineScene->results(), node->curve, node->index));
 }
 
 void InspectorPicker::showWindow()

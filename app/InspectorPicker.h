@@ -3,20 +3,21 @@
 #include <QObject>
 
 class AssoOpenGLScene;
+class SineOpenGLScene;
 class InspectorWindow;
 class QPointF;
 class RootsPage;
 
 // Turns the gestures that pick a number into inspections: a click on a cell of the Roots
 // grid shows that cell in the inspector (and the inspector itself); while the inspector is
-// open, a click near a node of the associative-law plot shows that node and rings it.
+// open, a click near a node of the associative-law or sine plot shows that node and rings it.
 class InspectorPicker : public QObject
 {
     Q_OBJECT
 
 public:
     InspectorPicker(InspectorWindow* window, const RootsPage& rootsPage, AssoOpenGLScene* assoScene,
-                    QObject* parent);
+                    SineOpenGLScene* sineScene, QObject* parent);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -24,9 +25,11 @@ protected:
 private:
     void pickRootsCell(int row, int variant);
     void pickAssoNode(QPointF position);
+    void pickSineNode(QPointF position);
     void showWindow();
 
     InspectorWindow* window;
     const RootsPage& rootsPage;
     AssoOpenGLScene* assoScene;
+    SineOpenGLScene* sineScene;
 };

@@ -16,7 +16,8 @@ std::optional<PlotNode> nearestPlotNode(QPointF position, float radius, int curv
         for (const int index : drawnIndices(curve)) {
             const QPointF offset = pixelOf(curve, index) - position;
             const double distance = std::hypot(offset.x(), offset.y());
-            if (distance <= nearestDistance) {
+            // On a tie the earlier curve wins: it is drawn first, so it covers the later one.
+            if (nearest ? distance < nearestDistance : distance <= nearestDistance) {
                 nearestDistance = distance;
                 nearest = PlotNode{curve, index};
             }

@@ -23,7 +23,8 @@ struct PlotNode {
 
 // The drawn node nearest `position` (view pixels) within `radius` pixels, over curves 0 ..
 // curveCount - 1: `drawnIndices(curve)` lists a curve's drawn nodes (none for a hidden curve),
-// `pixelOf(curve, index)` places one in the view.
+// `pixelOf(curve, index)` places one in the view. Of nodes equally near, the earlier curve's
+// is taken.
 std::optional<PlotNode> nearestPlotNode(QPointF position, float radius, int curveCount,
                                         const std::function<std::vector<int>(int)>& drawnIndices,
                                         const std::function<QPointF(int, int)>& pixelOf);

@@ -10,7 +10,9 @@ namespace
 
 constexpr int kMostDigitsCompared = 40;
 
-std::string printed(const char* format, mpfr_srcptr number)
+} // namespace
+
+std::string printedReal(const char* format, mpfr_srcptr number)
 {
     const quillon::CLocaleScope cLocale;
     char* text = nullptr;
@@ -21,6 +23,9 @@ std::string printed(const char* format, mpfr_srcptr number)
     mpfr_free_str(text);
     return result;
 }
+
+namespace
+{
 
 // The significant digits and decimal exponent of `number` rounded to `digits` digits.
 std::pair<std::string, mpfr_exp_t> roundedDigits(mpfr_srcptr number, int digits)
@@ -65,7 +70,7 @@ bool readReference(const std::string& text, mpfr_t reference)
 ErrorReport compareWithReference(double value, FloatFormat format, const mpfr_t reference)
 {
     ErrorReport report;
-    report.reference = printed("%.40Rg", reference);
+    report.reference = printedReal("%.40Rg", reference);
     if (!std::isfinite(value) || !mpfr_number_p(reference)) {
         report.absoluteError = report.relativeError = report.ulpError = "n/a";
         report.correctDigits = "0";
@@ -75,7 +80,7 @@ ErrorReport compareWithReference(double value, FloatFormat format, const mpfr_t 
     mpfr_set_d(exactValue.get(), value, MPFR_RNDN);
     MpfrNumber difference(kReferenceBits);
     mpfr_sub(difference.get(), exactValue.get(), reference, MPFR_RNDN);
-    report.absoluteError = printed("%.16Re", difference.get());
+    report.absoluteError = printedReal("%.16Re", difference.get());
 
     if (mpfr_zero_p(reference)) {
         report.relativeError = "n/a";
@@ -83,14 +88,14 @@ ErrorReport compareWithReference(double value, FloatFormat format, const mpfr_t 
         MpfrNumber relative(kReferenceBits);
         mpfr_div(relative.get(), difference.get(), reference, MPFR_RNDN);
         mpfr_abs(relative.get(), relative.get(), MPFR_RNDN);
-        report.relativeError = printed("%.16Re", relative.get());
+        report.relativeError = printedReal("%.16Re", relative.get());
     }
 
     // 2^e <= |reference| < 2^(e+1) with e = MPFR's exponent - 1.
     const int binaryExponent = mpfr_zero_p(reference) ? -100000 : int(mpfr_get_exp(reference)) - 1;
     MpfrNumber inUlps(kReferenceBits);
     mpfr_mul_2si(inUlps.get(), difference.get(), -ulpExponent(binaryExponent, format), MPFR_RNDN);
-    report.ulpError = printed("%.2Rf", inUlps.get());
+    report.ulpError = printedReal("%.2Rf", inUlps.get());
     report.correctDigits = agreeingDigits(exactValue.get(), reference);
     return report;
 }

@@ -27,6 +27,9 @@ struct ErrorReport {
     std::string correctDigits;
 };
 
+// An MPFR number printed with mpfr_printf's `format` ("%.16Re", say) in the C locale.
+std::string printedReal(const char* format, mpfr_srcptr number);
+
 // Reads a decimal (or hex-float) text into `reference` at kReferenceBits, rounded to nearest;
 // false when the text is not a whole number.
 bool readReference(const std::string& text, mpfr_t reference);

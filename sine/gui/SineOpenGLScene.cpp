@@ -123,6 +123,7 @@ void SineOpenGLScene::setUpPanel()
 void SineOpenGLScene::recompute()
 {
     computeSine(X, N, computed);
+    markedNode.reset();
     fitYRange();
     refreshStatusWindow();
 }
@@ -585,19 +586,18 @@ void SineOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
         const float x = float(event->scenePos().x());
         const float y = float(event->scenePos().y());
         mouse.press(x, y);
-        if (showLabels) {
-            clickLegend(x, y);
-        }
+        pressHitLegend = showLabels && clickLegend(x, y);
     }
     event->accept();
 }
 
-void SineOpenGLScene::clickLegend(float x, float y)
+// Toggles what a press on the legend hits; false when it hits nothing.
+bool SineOpenGLScene::clickLegend(float x, float y)
 {
     const SineLegendHit hit = sineLegendAt(x, y, viewWidth, viewHeight);
     switch (hit.kind) {
     case SineLegendHit::None:
-        return;
+        return false;
     case SineLegendHit::Library:
         needed[kLibrary] = !needed[kLibrary];
         break;
@@ -613,6 +613,7 @@ void SineOpenGLScene::clickLegend(float x, float y)
     }
     refreshSelectionWindow();
     repaint();
+    return true;
 }
 
 void SineOpenGLScene::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
@@ -638,12 +639,51 @@ void SineOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
     }
     const quillon::PlotMouse::View view{window, yLow,   yHigh,     N,
                                         xLeft,  xRight, viewWidth, viewHeight};
-    if (mouse.release(event->button(), float(event->scenePos().x()), float(event->scenePos().y()),
-                      view)) {
+    const float x = float(event->scenePos().x());
+    const float y = float(event->scenePos().y());
+    const bool click =
+        event->button() == Qt::LeftButton && mouse.isClickAt(x, y) && !pressHitLegend;
+    if (mouse.release(event->button(), x, y, view)) {
         refreshFocusWindow();
     }
     event->accept();
     repaint();
+    if (click) {
+        emit plotClicked(event->scenePos());
+    }
+}
+
+std::optional<quillon::PlotNode> SineOpenGLScene::nodeNear(QPointF position, float radius) const
+{
+    const SinePlotContent content = plotContent();
+    const auto drawn = [&](int k) {
+        return needed[k + 1] ? plottedIndices(content, k) : std::vector<int>{};
+    };
+    const auto pixel = [&](int k, int i) {
+        return QPointF(nodePixelX(i), valuePixelY(*content.plotted(k, i)));
+    };
+    return quillon::nearestPlotNode(position, radius, kSineApproachCount, drawn, pixel);
+}
+
+void SineOpenGLScene::markNode(std::optional<quillon::PlotNode> node)
+{
+    markedNode = node;
+    repaint();
+}
+
+// A black ring around the node the inspector shows, while it is displayed.
+void SineOpenGLScene::drawNodeMark(QPainter* painter) const
+{
+    if (!markedNode) {
+        return;
+    }
+    const SinePlotContent content = plotContent();
+    const std::vector<int> drawn = plottedIndices(content, markedNode->curve);
+    if (std::find(drawn.begin(), drawn.end(), markedNode->index) != drawn.end()) {
+        quillon::drawPlotNodeRing(
+            painter, QPointF(nodePixelX(markedNode->index),
+                             valuePixelY(*content.plotted(markedNode->curve, markedNode->index))));
+    }
 }
 
 // ---- background ---------------------------------------------------------------------------
@@ -817,6 +857,7 @@ void SineOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
         drawLegend(painter);
     }
     drawLargestError(painter);
+    drawNodeMark(painter);
     painter->restore();
 }
 

@@ -4,6 +4,7 @@
 #include "common/gui/IndexLabels.h"
 #include "common/gui/OpenGLPlotScene.h"
 #include "common/gui/PlotMouse.h"
+#include "common/gui/PlotNodePick.h"
 #include "sine/engine/SineApproaches.h"
 #include "sine/engine/SineFiles.h"
 #include "sine/engine/SinePlotGeometry.h"
@@ -12,6 +13,7 @@
 #include <QImage>
 #include <QString>
 #include <array>
+#include <optional>
 #include <vector>
 
 class SineFocusWindow;
@@ -64,11 +66,21 @@ public:
     // The square of the error icon of index i in view pixels.
     QRectF errorIconRect(int i) const;
 
+    // The drawn node nearest a point of the view within `radius` pixels: curve = approach
+    // (0 = Func1), index = term index.
+    std::optional<quillon::PlotNode> nodeNear(QPointF position, float radius) const;
+    // Rings one node of the plot (the one the inspector shows); none: no ring.
+    void markNode(std::optional<quillon::PlotNode> node);
+
     // The module's files; each returns why it failed (and then changed nothing), or "".
     QString saveColorFile(const QString& path) const;
     QString loadColorFile(const QString& path);
     QString saveTextData(const QString& path) const;
     QString saveCsvData(const QString& path) const;
+
+signals:
+    // A left click on the plot that neither dragged nor hit the legend, in view pixels.
+    void plotClicked(QPointF position);
 
 public slots:
     void updateMaxItera();
@@ -143,7 +155,8 @@ private:
     float gridValue(int j) const;
     int indexUnderCursor() const;
     std::vector<int> plottedIndices(const SinePlotContent& content, int k) const;
-    void clickLegend(float x, float y);
+    bool clickLegend(float x, float y);
+    void drawNodeMark(QPainter* painter) const;
     void drawGrid() const;
     void drawErrorMarkers() const;
     void drawCurves(int slot) const;
@@ -185,6 +198,8 @@ private:
     float yHigh = 1.5f;
     float gridColor[3] = {0.25f, 0.25f, 0.25f};
     int hovered = -1;
+    bool pressHitLegend = false;
+    std::optional<quillon::PlotNode> markedNode;
 
     bool autoPaused = false;
     bool blink = false;

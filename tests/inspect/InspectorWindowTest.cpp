@@ -3,6 +3,7 @@
 #include "app/MainWindow.h"
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "common/core/PlotXWindow.h"
+#include "sine/gui/SineOpenGLScene.h"
 #include "tests/gui/GuiTestSupport.h"
 
 #include <QAction>
@@ -27,6 +28,7 @@ private slots:
     void clickingARootsCellInspectsIt();
     void cellsWithoutAnIeeeValueSayWhy();
     void clickingAnAssociativeLawNodeInspectsIt();
+    void clickingASineNodeSplitsItsError();
 
 private:
     InspectorWindow* inspector() const;
@@ -182,6 +184,47 @@ void InspectorWindowTest::clickingAnAssociativeLawNodeInspectsIt()
     QVERIFY(inspector()->reportText().contains(QStringLiteral("agrees")));
     // The click zoomed nothing.
     QCOMPARE(scene->zoomDepth(), 0);
+}
+
+// sin(250 degrees) by Func1 (original argument, direct evaluation, naive sum) after 5 terms.
+// The argument single(250 * 3.141592502593994 / 180) = 4.3633227 rad; with 120-digit decimal
+// arithmetic its sine lies 1.3515037967386129e-07 above sin(250 degrees), and the five terms
+// summed exactly lie 2.4287858688879794e-01 above that.
+void InspectorWindowTest::clickingASineNodeSplitsItsError()
+{
+    auto* view = qobject_cast<GraphicsView*>(showPlotTab(*window, 3, "sine_VisWindow"));
+    QVERIFY(view != nullptr);
+    window->findChild<QTimer*>(QStringLiteral("sine_timer"))->stop();
+    auto* scene = qobject_cast<SineOpenGLScene*>(view->scene());
+    scene->setPaused(false);
+    const quillon::PlotXWindow& shown = scene->xWindow();
+    for (int tick = 0; tick < 100 && !(shown.displays(4) && shown.slideInDone()); ++tick) {
+        scene->runningMan();
+    }
+    QVERIFY(shown.displays(4));
+    scene->setPaused(true);
+    QVERIFY(popMenuWindow(*window, QStringLiteral("&Tools"), QStringLiteral("&Inspector ..."),
+                          QStringLiteral("Inspector")) != nullptr);
+    const QSize size = view->viewport()->size();
+    const float value = scene->results().series[0].sums[4];
+    const QPoint node(
+        qRound(size.width() * (quillon::plotNodeX(shown, 4, -1.5f, 1.5f) + 1.5f) / 3.0f),
+        qRound(size.height() * (scene->getYHigh() - value) /
+               (scene->getYHigh() - scene->getYLow())));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, node);
+    QVERIFY(inspector()
+                ->findChild<QLabel*>(QStringLiteral("inspector_source"))
+                ->text()
+                .startsWith(QStringLiteral("Sine, Func1 (")));
+    QVERIFY(inspector()
+                ->findChild<QLabel*>(QStringLiteral("inspector_source"))
+                ->text()
+                .endsWith(QStringLiteral("the sum of 5 terms")));
+    QCOMPARE(reported("reference"), QStringLiteral("-0.9396926207859083840541092773247314699362"));
+    QCOMPARE(reported("argument"), QStringLiteral("4.3633227 rad"));
+    QCOMPARE(reported("argument error"), QStringLiteral("1.3515037967386129e-07"));
+    QCOMPARE(reported("truncation error"), QStringLiteral("2.4287858688879794e-01"));
+    QVERIFY(reported("rounding error").contains(QLatin1Char('e')));
 }
 
 QTEST_MAIN(InspectorWindowTest)
