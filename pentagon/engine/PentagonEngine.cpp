@@ -44,6 +44,11 @@ float propagatingMax(float a, float b)
 
 } // namespace
 
+const std::array<PentagonStepRow, 5>& pentagonStepTable(bool isOut)
+{
+    return isOut ? kOutTable : kInTable;
+}
+
 PentagonEngine::PentagonEngine()
 {
     resetHistory();
@@ -51,12 +56,12 @@ PentagonEngine::PentagonEngine()
 
 void PentagonEngine::in()
 {
-    step(kInTable, false);
+    step(pentagonStepTable(false), false);
 }
 
 void PentagonEngine::out()
 {
-    step(kOutTable, true);
+    step(pentagonStepTable(true), true);
 }
 
 void PentagonEngine::step(const std::array<PentagonStepRow, 5>& table, bool isOut)

@@ -27,6 +27,10 @@ struct PentagonStepRow {
     int lineBTowards;
 };
 
+// The rows of an In step (the diagonals' crossings) or of an Out step (the extended edges'
+// meeting points), in the order the step computes them.
+const std::array<PentagonStepRow, 5>& pentagonStepTable(bool isOut);
+
 // The data range a view shows.
 struct PentagonRange {
     float xMin = 0;
