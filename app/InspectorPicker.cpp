@@ -3,8 +3,10 @@
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "inspect/gui/AssoInspection.h"
 #include "inspect/gui/InspectorWindow.h"
+#include "inspect/gui/PentagonInspection.h"
 #include "inspect/gui/RootsInspection.h"
 #include "inspect/gui/SineInspection.h"
+#include "pentagon/gui/PentagonOpenGLScene.h"
 #include "roots/gui/RootsPage.h"
 #include "sine/gui/SineOpenGLScene.h"
 
@@ -22,10 +24,12 @@ constexpr float kPickRadius = 10.0f;
 
 InspectorPicker::InspectorPicker(InspectorWindow* window, const RootsPage& rootsPage,
                                  AssoOpenGLScene* assoScene, SineOpenGLScene* sineScene,
-                                 QObject* parent)
+                                 PentagonOpenGLScene* pentagonScene, QObject* parent)
     : QObject(parent), window(window), rootsPage(rootsPage), assoScene(assoScene),
-      sineScene(sineScene)
+      sineScene(sineScene), pentagonScene(pentagonScene)
 {
+    pentagonScene->setClickPicker(
+        [this](QPointF position) { return pickPentagonVertex(position); });
     connect(assoScene, &AssoOpenGLScene::plotClicked, this, &InspectorPicker::pickAssoNode);
     connect(sineScene, &SineOpenGLScene::plotClicked, this, &InspectorPicker::pickSineNode);
     for (int row = 0; row < kRootsRowCount; ++row) {
@@ -88,6 +92,20 @@ void InspectorPicker::pickSineNode(QPointF position)
     }
     sineScene->markNode(node);
     window->inspect(sineInspection(sineScene->results(), node->curve, node->index));
+}
+
+bool InspectorPicker::pickPentagonVertex(QPointF position)
+{
+    if (!window->isVisible()) {
+        return false;
+    }
+    const auto vertex = pentagonScene->vertexNear(position, kPickRadius);
+    if (!vertex) {
+        return false;
+    }
+    pentagonScene->markVertex(vertex);
+    window->inspect(pentagonInspection(pentagonScene->engine(), vertex->curve, vertex->index));
+    return true;
 }
 
 void InspectorPicker::showWindow()

@@ -3,6 +3,7 @@
 #include <QObject>
 
 class AssoOpenGLScene;
+class PentagonOpenGLScene;
 class SineOpenGLScene;
 class InspectorWindow;
 class QPointF;
@@ -10,14 +11,16 @@ class RootsPage;
 
 // Turns the gestures that pick a number into inspections: a click on a cell of the Roots
 // grid shows that cell in the inspector (and the inspector itself); while the inspector is
-// open, a click near a node of the associative-law or sine plot shows that node and rings it.
+// open, a click near a node of the associative-law or sine plot, or near a vertex of a drawn
+// pentagon (when no pentagon is being entered), shows it and rings it.
 class InspectorPicker : public QObject
 {
     Q_OBJECT
 
 public:
     InspectorPicker(InspectorWindow* window, const RootsPage& rootsPage, AssoOpenGLScene* assoScene,
-                    SineOpenGLScene* sineScene, QObject* parent);
+                    SineOpenGLScene* sineScene, PentagonOpenGLScene* pentagonScene,
+                    QObject* parent);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -26,10 +29,12 @@ private:
     void pickRootsCell(int row, int variant);
     void pickAssoNode(QPointF position);
     void pickSineNode(QPointF position);
+    bool pickPentagonVertex(QPointF position);
     void showWindow();
 
     InspectorWindow* window;
     const RootsPage& rootsPage;
     AssoOpenGLScene* assoScene;
     SineOpenGLScene* sineScene;
+    PentagonOpenGLScene* pentagonScene;
 };

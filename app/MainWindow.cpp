@@ -303,7 +303,7 @@ void MainWindow::setUpInspector()
 {
     auto* inspector = new InspectorWindow();
     installAuxiliaryWindow(AuxWindow::Inspector, inspector);
-    new InspectorPicker(inspector, *rootsPage, assoScene, sineScene, this);
+    new InspectorPicker(inspector, *rootsPage, assoScene, sineScene, pentagonScene, this);
 }
 
 void MainWindow::popInspectorWindow()

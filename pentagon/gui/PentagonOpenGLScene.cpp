@@ -176,6 +176,7 @@ void PentagonOpenGLScene::reset()
 void PentagonOpenGLScene::startOver(void (PentagonEngine::*restart)())
 {
     (geometry.*restart)();
+    markedVertex.reset();
     showFittedRange(geometry.fittedRange());
     refreshHistoryWindow(true);
     showCounts();
@@ -516,7 +517,12 @@ void PentagonOpenGLScene::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
 void PentagonOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
-        if (pressPos.x() != -1 && pressPos.y() != -1) {
+        const bool picked = pressPos.x() != -1 && pressPos.y() != -1 &&
+                            event->scenePos() == pressPos && clickPicker &&
+                            clickPicker(event->scenePos());
+        if (picked) {
+            pressPos = QPointF(-1, -1);
+        } else if (pressPos.x() != -1 && pressPos.y() != -1) {
             const PentagonRange zoomed = pentagonZoomToRectangle(
                 range(), float(pressPos.x()), float(pressPos.y()), float(event->scenePos().x()),
                 float(event->scenePos().y()), viewWidth, viewHeight);
@@ -536,6 +542,44 @@ void PentagonOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
     }
     event->accept();
     repaint();
+}
+
+QPointF PentagonOpenGLScene::pixelOf(float x, float y) const
+{
+    return QPointF(float(viewWidth) * (x - xMin) / (xMax - xMin),
+                   float(viewHeight) * (yMax - y) / (yMax - yMin));
+}
+
+std::optional<quillon::PlotNode> PentagonOpenGLScene::vertexNear(QPointF position,
+                                                                 float radius) const
+{
+    const std::vector<PentagonPoints> valid = geometry.validPentagons();
+    const auto drawn = [&](int entry) {
+        return !selectionMode || isSelected(size_t(entry)) ? std::vector<int>{1, 2, 3, 4, 5}
+                                                           : std::vector<int>{};
+    };
+    const auto pixel = [&](int entry, int point) {
+        const PentagonPoints& pentagon = valid[size_t(entry)];
+        return pixelOf(pentagon.x(point), pentagon.y(point));
+    };
+    return quillon::nearestPlotNode(position, radius, int(valid.size()), drawn, pixel);
+}
+
+void PentagonOpenGLScene::markVertex(std::optional<quillon::PlotNode> vertex)
+{
+    markedVertex = vertex;
+    repaint();
+}
+
+// A black ring around the vertex the inspector shows, while its pentagon is in the history.
+void PentagonOpenGLScene::drawVertexMark(QPainter* painter) const
+{
+    const std::vector<PentagonPoints> valid = geometry.validPentagons();
+    if (markedVertex && size_t(markedVertex->curve) < valid.size()) {
+        const PentagonPoints& pentagon = valid[size_t(markedVertex->curve)];
+        quillon::drawPlotNodeRing(
+            painter, pixelOf(pentagon.x(markedVertex->index), pentagon.y(markedVertex->index)));
+    }
 }
 
 void PentagonOpenGLScene::drawBackground(QPainter* painter, const QRectF& rect)
@@ -630,6 +674,7 @@ void PentagonOpenGLScene::drawForeground(QPainter* painter, const QRectF&)
     if (showYAxis) {
         drawHorizontalGridLines(painter);
     }
+    drawVertexMark(painter);
     if (geometry.hasFailed()) {
         drawErrorMessage(painter);
     }

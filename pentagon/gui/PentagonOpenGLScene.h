@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/gui/OpenGLPlotScene.h"
+#include "common/gui/PlotNodePick.h"
 #include "pentagon/engine/PentagonEngine.h"
 #include "pentagon/engine/PentagonFiles.h"
 #include "pentagon/gui/PentagonPanel.h"
@@ -8,6 +9,8 @@
 #include <QPointF>
 #include <QPointer>
 #include <QString>
+#include <functional>
+#include <optional>
 #include <vector>
 
 class PentagonFocusWindow;
@@ -42,6 +45,15 @@ public:
     // whole history, and shows it in the focus window.
     void fitToSelection();
     void fitToHistory();
+
+    // The vertex of a drawn pentagon nearest a point of the view within `radius` pixels:
+    // curve = history entry, index = point 1 .. 5.
+    std::optional<quillon::PlotNode> vertexNear(QPointF position, float radius) const;
+    // Rings one vertex (the one the inspector shows); none: no ring.
+    void markVertex(std::optional<quillon::PlotNode> vertex);
+    // Offered every left click that did not move: when it returns true the click picked
+    // something and does not zoom.
+    void setClickPicker(std::function<bool(QPointF)> picker) { clickPicker = std::move(picker); }
 
     const PentagonColorSettings& colors() const { return *colorSettings; }
     // Sets colour triple `index` (0 .. 6) of the settings and repaints.
@@ -117,6 +129,8 @@ private:
     void drawVerticalGridLines(QPainter* painter) const;
     void drawHorizontalGridLines(QPainter* painter) const;
     void drawErrorMessage(QPainter* painter) const;
+    void drawVertexMark(QPainter* painter) const;
+    QPointF pixelOf(float x, float y) const;
 
     PentagonPanel panel;
     PentagonColorSettings* colorSettings;
@@ -143,4 +157,6 @@ private:
     int operationNum = 10;
     int order = 0;
     bool firstAnimation = true;
+    std::function<bool(QPointF)> clickPicker;
+    std::optional<quillon::PlotNode> markedVertex;
 };

@@ -3,6 +3,7 @@
 #include "app/MainWindow.h"
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "common/core/PlotXWindow.h"
+#include "pentagon/gui/PentagonOpenGLScene.h"
 #include "sine/gui/SineOpenGLScene.h"
 #include "tests/gui/GuiTestSupport.h"
 
@@ -13,6 +14,7 @@
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QTimer>
 #include <QtTest>
@@ -29,6 +31,7 @@ private slots:
     void cellsWithoutAnIeeeValueSayWhy();
     void clickingAnAssociativeLawNodeInspectsIt();
     void clickingASineNodeSplitsItsError();
+    void clickingAPentagonVertexInspectsBothCoordinates();
 
 private:
     InspectorWindow* inspector() const;
@@ -225,6 +228,39 @@ void InspectorWindowTest::clickingASineNodeSplitsItsError()
     QCOMPARE(reported("argument error"), QStringLiteral("1.3515037967386129e-07"));
     QCOMPARE(reported("truncation error"), QStringLiteral("2.4287858688879794e-01"));
     QVERIFY(reported("rounding error").contains(QLatin1Char('e')));
+}
+
+// The Default pentagon (epsilon 0.1) after In and Out. The In's P3 is where the line from Q4
+// towards Q1 meets the line from Q2 towards Q5: with Python fractions,
+// (0.5238095292158407345744458314981252636441, 0.4761904707841592654255541685018747363559).
+void InspectorWindowTest::clickingAPentagonVertexInspectsBothCoordinates()
+{
+    auto* view = qobject_cast<GraphicsView*>(showPlotTab(*window, 1, "pentagon_VisWindow"));
+    QVERIFY(view != nullptr);
+    window->findChild<QTimer*>(QStringLiteral("pentagon_timer"))->stop();
+    auto* scene = qobject_cast<PentagonOpenGLScene*>(view->scene());
+    clickIndicator(window->findChild<QRadioButton*>(QStringLiteral("pentagon_autoInput")));
+    QTest::mouseClick(window->findChild<QPushButton*>(QStringLiteral("pentagon_In")),
+                      Qt::LeftButton);
+    QTest::mouseClick(window->findChild<QPushButton*>(QStringLiteral("pentagon_Out")),
+                      Qt::LeftButton);
+    QVERIFY(popMenuWindow(*window, QStringLiteral("&Tools"), QStringLiteral("&Inspector ..."),
+                          QStringLiteral("Inspector")) != nullptr);
+    scene->repaint();
+    QTest::qWait(50);
+    const PentagonPoints& afterIn = *std::next(scene->engine().getHistory().begin(), 1);
+    const PentagonRange range = scene->range();
+    const QSize size = view->viewport()->size();
+    const QPoint vertex(
+        qRound(size.width() * (afterIn.x(3) - range.xMin) / (range.xMax - range.xMin)),
+        qRound(size.height() * (range.yMax - afterIn.y(3)) / (range.yMax - range.yMin)));
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, vertex + QPoint(2, 1));
+    QCOMPARE(inspector()->findChild<QLabel*>(QStringLiteral("inspector_source"))->text(),
+             QStringLiteral("Pentagon 1 (after 1 Ins and 0 Outs), point 3, x"));
+    QCOMPARE(reported("reference"), QStringLiteral("0.5238095292158407345744458314981252636441"));
+    QCOMPARE(reported("y reference"), QStringLiteral("0.4761904707841592654255541685018747363559"));
+    // A click that picks does not zoom.
+    QCOMPARE(scene->zoomDepth(), 0);
 }
 
 QTEST_MAIN(InspectorWindowTest)
