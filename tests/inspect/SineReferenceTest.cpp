@@ -1,4 +1,5 @@
 #include "inspect/engine/SineReference.h"
+#include "inspect/engine/ErrorReport.h"
 
 #include <gtest/gtest.h>
 
@@ -7,13 +8,10 @@
 namespace
 {
 
+// 25 significant digits, as the expected values were written.
 std::string digits25(const MpfrNumber& number)
 {
-    char* text = nullptr;
-    mpfr_asprintf(&text, "%.24Re", number.get());
-    std::string result(text);
-    mpfr_free_str(text);
-    return result;
+    return printedReal("%.24Re", number.get());
 }
 
 } // namespace
