@@ -1,7 +1,7 @@
 #include "app/MainWindow.h"
 
 #include "app/GraphicsView.h"
-#include "app/InspectorPicker.h"
+#include "app/PickGestures.h"
 #include "app/TabMenuSet.h"
 #include "assoc/gui/AssoColorMap.h"
 #include "assoc/gui/AssoFocusWindow.h"
@@ -303,7 +303,7 @@ void MainWindow::setUpInspector()
 {
     auto* inspector = new InspectorWindow();
     installAuxiliaryWindow(AuxWindow::Inspector, inspector);
-    new InspectorPicker(inspector, *rootsPage, assoScene, sineScene, pentagonScene, this);
+    new PickGestures(inspector, *rootsPage, assoScene, sineScene, pentagonScene, this);
 }
 
 void MainWindow::popInspectorWindow()

@@ -1,9 +1,9 @@
 #include "cli/AssocCommand.h"
 #include "cli/CliRunner.h"
-#include "cli/InspectCommand.h"
 #include "cli/PentagonCommand.h"
 #include "cli/RootsCommand.h"
 #include "cli/SineCommand.h"
+#include "cli/ValueReportCommand.h"
 
 #include <QCoreApplication>
 
@@ -15,6 +15,6 @@ int main(int argc, char* argv[])
     runner.addCommand(std::make_unique<AssocCommand>());
     runner.addCommand(std::make_unique<SineCommand>());
     runner.addCommand(std::make_unique<PentagonCommand>());
-    runner.addCommand(std::make_unique<InspectCommand>());
+    runner.addCommand(std::make_unique<ValueReportCommand>());
     return runner.run(QCoreApplication::arguments(), {stdout, stderr});
 }

@@ -27,8 +27,7 @@ QString lineValue(const std::vector<ReportLine>& lines, const char* name)
 // The bit pattern's hexadecimal digits written out as bits.
 QString bitString(const QString& hexPattern, int width)
 {
-    bool ok = false;
-    const qulonglong bits = hexPattern.mid(2).toULongLong(&ok, 16);
+    const qulonglong bits = hexPattern.mid(2).toULongLong(nullptr, 16);
     return QStringLiteral("%1").arg(bits, width, 2, QLatin1Char('0'));
 }
 

@@ -131,6 +131,16 @@ QGraphicsView* showPlotTab(QMainWindow& window, int tab, const char* placeholder
     return laidOut ? view : nullptr;
 }
 
+QGraphicsView* showStoppedPlotTab(QMainWindow& window, int tab, const char* placeholder,
+                                  const char* timer)
+{
+    QGraphicsView* view = showPlotTab(window, tab, placeholder);
+    if (auto* ticks = window.findChild<QTimer*>(QString::fromLatin1(timer))) {
+        ticks->stop();
+    }
+    return view;
+}
+
 QImage grabPlotFrame(QGraphicsView* view)
 {
     QApplication::processEvents();

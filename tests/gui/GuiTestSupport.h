@@ -47,5 +47,10 @@ bool chooseFileThroughMenu(QMainWindow& window, const QString& entry, const QStr
 // failed check) when it never was.
 QGraphicsView* showPlotTab(QMainWindow& window, int tab, const char* placeholder);
 
+// showPlotTab, then stops that tab's animation timer (object name `timer`), so that a test
+// ticks the animation itself.
+QGraphicsView* showStoppedPlotTab(QMainWindow& window, int tab, const char* placeholder,
+                                  const char* timer);
+
 // The plot view's last frame as OpenGL drew it.
 QImage grabPlotFrame(QGraphicsView* view);

@@ -16,7 +16,6 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
-#include <QTimer>
 #include <QtTest>
 
 class InspectorWindowTest : public QObject
@@ -156,9 +155,9 @@ void InspectorWindowTest::cellsWithoutAnIeeeValueSayWhy()
 // in single precision, are all hundreds of millions of ulps away.
 void InspectorWindowTest::clickingAnAssociativeLawNodeInspectsIt()
 {
-    auto* view = qobject_cast<GraphicsView*>(showPlotTab(*window, 2, "associativelaw_VisWindow"));
+    auto* view = qobject_cast<GraphicsView*>(
+        showStoppedPlotTab(*window, 2, "associativelaw_VisWindow", "associativelaw_timer"));
     QVERIFY(view != nullptr);
-    window->findChild<QTimer*>(QStringLiteral("associativelaw_timer"))->stop();
     auto* scene = qobject_cast<AssoOpenGLScene*>(view->scene());
     // The window of 21 nodes slides forward tick by tick.
     scene->setPaused(false);
@@ -199,9 +198,9 @@ void InspectorWindowTest::clickingAnAssociativeLawNodeInspectsIt()
 // summed exactly lie 2.4287858688879794e-01 above that.
 void InspectorWindowTest::clickingASineNodeSplitsItsError()
 {
-    auto* view = qobject_cast<GraphicsView*>(showPlotTab(*window, 3, "sine_VisWindow"));
+    auto* view =
+        qobject_cast<GraphicsView*>(showStoppedPlotTab(*window, 3, "sine_VisWindow", "sine_timer"));
     QVERIFY(view != nullptr);
-    window->findChild<QTimer*>(QStringLiteral("sine_timer"))->stop();
     auto* scene = qobject_cast<SineOpenGLScene*>(view->scene());
     scene->setPaused(false);
     const quillon::PlotXWindow& shown = scene->xWindow();
@@ -239,9 +238,9 @@ void InspectorWindowTest::clickingASineNodeSplitsItsError()
 // (0.5238095292158407345744458314981252636441, 0.4761904707841592654255541685018747363559).
 void InspectorWindowTest::clickingAPentagonVertexInspectsBothCoordinates()
 {
-    auto* view = qobject_cast<GraphicsView*>(showPlotTab(*window, 1, "pentagon_VisWindow"));
+    auto* view = qobject_cast<GraphicsView*>(
+        showStoppedPlotTab(*window, 1, "pentagon_VisWindow", "pentagon_timer"));
     QVERIFY(view != nullptr);
-    window->findChild<QTimer*>(QStringLiteral("pentagon_timer"))->stop();
     auto* scene = qobject_cast<PentagonOpenGLScene*>(view->scene());
     clickIndicator(window->findChild<QRadioButton*>(QStringLiteral("pentagon_autoInput")));
     QTest::mouseClick(window->findChild<QPushButton*>(QStringLiteral("pentagon_In")),

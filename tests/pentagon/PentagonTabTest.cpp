@@ -21,7 +21,6 @@
 #include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTextBrowser>
-#include <QTimer>
 #include <QtTest>
 
 namespace
@@ -97,12 +96,11 @@ void PentagonTabTest::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     window = std::make_unique<MainWindow>();
-    view = qobject_cast<GraphicsView*>(showPlotTab(*window, 1, "pentagon_VisWindow"));
+    view = qobject_cast<GraphicsView*>(
+        showStoppedPlotTab(*window, 1, "pentagon_VisWindow", "pentagon_timer"));
     QVERIFY(view != nullptr);
     scene = qobject_cast<PentagonOpenGLScene*>(view->scene());
     QVERIFY(scene != nullptr);
-    // The tests tick the animation themselves.
-    child<QTimer>("pentagon_timer")->stop();
 }
 
 void PentagonTabTest::cleanup()

@@ -104,12 +104,12 @@ void SineTabTest::init()
 {
     folder = std::make_unique<QTemporaryDir>();
     window = std::make_unique<MainWindow>();
-    view = qobject_cast<GraphicsView*>(showPlotTab(*window, 3, "sine_VisWindow"));
+    view =
+        qobject_cast<GraphicsView*>(showStoppedPlotTab(*window, 3, "sine_VisWindow", "sine_timer"));
     QVERIFY(view != nullptr);
     scene = qobject_cast<SineOpenGLScene*>(view->scene());
     QVERIFY(scene != nullptr);
-    // The tests tick the animation themselves; leaving the first tab paused this one.
-    child<QTimer>("sine_timer")->stop();
+    // Leaving the first tab paused this one.
     scene->setPaused(false);
 }
 

@@ -13,14 +13,13 @@ class RootsPage;
 // grid shows that cell in the inspector (and the inspector itself); while the inspector is
 // open, a click near a node of the associative-law or sine plot, or near a vertex of a drawn
 // pentagon (when no pentagon is being entered), shows it and rings it.
-class InspectorPicker : public QObject
+class PickGestures : public QObject
 {
     Q_OBJECT
 
 public:
-    InspectorPicker(InspectorWindow* window, const RootsPage& rootsPage, AssoOpenGLScene* assoScene,
-                    SineOpenGLScene* sineScene, PentagonOpenGLScene* pentagonScene,
-                    QObject* parent);
+    PickGestures(InspectorWindow* window, const RootsPage& rootsPage, AssoOpenGLScene* assoScene,
+                 SineOpenGLScene* sineScene, PentagonOpenGLScene* pentagonScene, QObject* parent);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -1,4 +1,4 @@
-#include "cli/InspectCommand.h"
+#include "cli/ValueReportCommand.h"
 
 #include "inspect/engine/InspectionReport.h"
 
@@ -71,17 +71,17 @@ QStringList negativeValueLast(const QStringList& arguments, const QStringList& v
 
 } // namespace
 
-QString InspectCommand::name() const
+QString ValueReportCommand::name() const
 {
     return QStringLiteral("inspect");
 }
 
-QString InspectCommand::summary() const
+QString ValueReportCommand::summary() const
 {
     return QStringLiteral("the bits, the exact value and the error of one number");
 }
 
-int InspectCommand::run(const QStringList& arguments, const CliStreams& streams) const
+int ValueReportCommand::run(const QStringList& arguments, const CliStreams& streams) const
 {
     QCommandLineParser parser;
     const QCommandLineOption as(QStringLiteral("as"), QString(), QStringLiteral("FORMAT"));

@@ -4,7 +4,7 @@
 
 // quillon-cli inspect: what a number becomes in single or double precision, bit by bit and
 // exactly, and how far it lies from a reference.
-class InspectCommand : public CliCommand
+class ValueReportCommand : public CliCommand
 {
 public:
     QString name() const override;

@@ -1,4 +1,4 @@
-#include "app/InspectorPicker.h"
+#include "app/PickGestures.h"
 
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "inspect/gui/AssoInspection.h"
@@ -22,16 +22,16 @@ constexpr float kPickRadius = 10.0f;
 
 } // namespace
 
-InspectorPicker::InspectorPicker(InspectorWindow* window, const RootsPage& rootsPage,
-                                 AssoOpenGLScene* assoScene, SineOpenGLScene* sineScene,
-                                 PentagonOpenGLScene* pentagonScene, QObject* parent)
+PickGestures::PickGestures(InspectorWindow* window, const RootsPage& rootsPage,
+                           AssoOpenGLScene* assoScene, SineOpenGLScene* sineScene,
+                           PentagonOpenGLScene* pentagonScene, QObject* parent)
     : QObject(parent), window(window), rootsPage(rootsPage), assoScene(assoScene),
       sineScene(sineScene), pentagonScene(pentagonScene)
 {
     pentagonScene->setClickPicker(
         [this](QPointF position) { return pickPentagonVertex(position); });
-    connect(assoScene, &AssoOpenGLScene::plotClicked, this, &InspectorPicker::pickAssoNode);
-    connect(sineScene, &SineOpenGLScene::plotClicked, this, &InspectorPicker::pickSineNode);
+    connect(assoScene, &AssoOpenGLScene::plotClicked, this, &PickGestures::pickAssoNode);
+    connect(sineScene, &SineOpenGLScene::plotClicked, this, &PickGestures::pickSineNode);
     for (int row = 0; row < kRootsRowCount; ++row) {
         for (int variant = 0; variant < kRootsVariantCount; ++variant) {
             rootsPage.valueCell(RootsRow(row), variant)->installEventFilter(this);
@@ -39,7 +39,7 @@ InspectorPicker::InspectorPicker(InspectorWindow* window, const RootsPage& roots
     }
 }
 
-bool InspectorPicker::eventFilter(QObject* watched, QEvent* event)
+bool PickGestures::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::MouseButtonRelease ||
         static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {
@@ -56,7 +56,7 @@ bool InspectorPicker::eventFilter(QObject* watched, QEvent* event)
     return false;
 }
 
-void InspectorPicker::pickRootsCell(int row, int variant)
+void PickGestures::pickRootsCell(int row, int variant)
 {
     const auto picked = rootsInspection(rootsPage.solver(), RootsRow(row), variant);
     if (const auto* inspection = std::get_if<Inspection>(&picked)) {
@@ -67,7 +67,7 @@ void InspectorPicker::pickRootsCell(int row, int variant)
     showWindow();
 }
 
-void InspectorPicker::pickAssoNode(QPointF position)
+void PickGestures::pickAssoNode(QPointF position)
 {
     if (!window->isVisible()) {
         return;
@@ -81,7 +81,7 @@ void InspectorPicker::pickAssoNode(QPointF position)
                                    node->curve, node->index));
 }
 
-void InspectorPicker::pickSineNode(QPointF position)
+void PickGestures::pickSineNode(QPointF position)
 {
     if (!window->isVisible()) {
         return;
@@ -94,7 +94,7 @@ void InspectorPicker::pickSineNode(QPointF position)
     window->inspect(sineInspection(sineScene->results(), node->curve, node->index));
 }
 
-bool InspectorPicker::pickPentagonVertex(QPointF position)
+bool PickGestures::pickPentagonVertex(QPointF position)
 {
     if (!window->isVisible()) {
         return false;
@@ -108,7 +108,7 @@ bool InspectorPicker::pickPentagonVertex(QPointF position)
     return true;
 }
 
-void InspectorPicker::showWindow()
+void PickGestures::showWindow()
 {
     if (!window->isVisible()) {
         window->show();
