@@ -18,11 +18,13 @@ Inspection pentagonInspection(const PentagonEngine& engine, int entry, int point
         ins = counts.numIns;
         outs = counts.numOuts;
     }
-    inspection.source = QObject::tr("Pentagon %1 (after %2 Ins and %3 Outs), point %4, x")
-                            .arg(entry)
-                            .arg(ins)
-                            .arg(outs)
-                            .arg(point);
+    inspection.source = entry == 0
+                            ? QObject::tr("Pentagon 0 (the initial one), point %1, x").arg(point)
+                            : QObject::tr("Pentagon %1 (after %2 Ins and %3 Outs), point %4, x")
+                                  .arg(entry)
+                                  .arg(ins)
+                                  .arg(outs)
+                                  .arg(point);
     inspection.value = double(pentagon.x(point));
     inspection.format = FloatFormat::Single;
     const double y = double(pentagon.y(point));
@@ -40,11 +42,15 @@ Inspection pentagonInspection(const PentagonEngine& engine, int entry, int point
     inspection.context.push_back({"y absolute error", yError.absoluteError});
     inspection.context.push_back({"y error in ulps", yError.ulpError});
     inspection.referenceNote =
-        QObject::tr("True value: the same %1 steps replayed from the same single-precision "
-                    "initial points with exact rational arithmetic (GMP), where an Out undoes an "
-                    "In exactly; shown to %2 bits. Histories up to %3 steps are replayed.")
-            .arg(entry)
-            .arg(kReferenceBits)
-            .arg(kPentagonReplayStepLimit);
+        entry == 0
+            ? QObject::tr("True value: the initial pentagon itself, whose single-precision "
+                          "points every step starts from.")
+            : QObject::tr("True value: the same %1 steps replayed from the same single-precision "
+                          "initial points with exact rational arithmetic (GMP), where an Out "
+                          "undoes an In exactly; shown to %2 bits. Histories up to %3 steps are "
+                          "replayed.")
+                  .arg(entry)
+                  .arg(kReferenceBits)
+                  .arg(kPentagonReplayStepLimit);
     return inspection;
 }
