@@ -1,6 +1,7 @@
 #include "inspect/engine/PentagonReference.h"
 
 #include "inspect/engine/ErrorReport.h"
+#include "inspect/engine/GmpRational.h"
 #include "pentagon/engine/PentagonEngine.h"
 
 #include <gmp.h>
@@ -8,25 +9,10 @@
 namespace
 {
 
-// A rational that clears itself.
-class Rational
-{
-public:
-    Rational() { mpq_init(value); }
-    ~Rational() { mpq_clear(value); }
-    Rational(const Rational&) = delete;
-    Rational& operator=(const Rational&) = delete;
-    mpq_ptr get() { return value; }
-    mpq_srcptr get() const { return value; }
-
-private:
-    mpq_t value;
-};
-
 // Points 1 .. 5 as exact rationals, x and y.
 struct ExactPentagon {
-    std::array<Rational, 5> x;
-    std::array<Rational, 5> y;
+    std::array<GmpRational, 5> x;
+    std::array<GmpRational, 5> y;
 };
 
 size_t bitsOf(mpq_srcptr q)
@@ -40,7 +26,7 @@ bool crossing(mpq_srcptr ax, mpq_srcptr ay, mpq_srcptr bx, mpq_srcptr by, mpq_sr
               mpq_srcptr cy, mpq_srcptr dx, mpq_srcptr dy, mpq_ptr x, mpq_ptr y)
 {
     // a x + b y = c for each line, from a = y2 - y1, b = x1 - x2, c = a x1 + b y1.
-    Rational a1, b1, c1, a2, b2, c2, t, determinant;
+    GmpRational a1, b1, c1, a2, b2, c2, t, determinant;
     mpq_sub(a1.get(), by, ay);
     mpq_sub(b1.get(), ax, bx);
     mpq_mul(c1.get(), a1.get(), ax);
