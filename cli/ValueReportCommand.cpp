@@ -9,7 +9,7 @@ namespace
 {
 
 const char* const kHelp =
-    "Usage: quillon-cli inspect VALUE [--as single|double] [--reference DECIMAL]\n"
+    "Usage: quillon-cli inspect VALUE [--as single|double] [--reference NUMBER]\n"
     "Shows what VALUE becomes when it is rounded once to single (binary32) or double\n"
     "(binary64) precision: its sign, exponent and significand bits, its bit pattern, the exact\n"
     "decimal it stands for, its two neighbours and its ulp; and, with a reference, how far it\n"
@@ -21,12 +21,14 @@ const char* const kHelp =
     "\n"
     "Options:\n"
     "  --as FORMAT          single or double. Default: single.\n"
-    "  --reference DECIMAL  The true answer (a decimal or hex-float number), held to 1024 bits.\n"
+    "  --reference NUMBER   The true answer, written as VALUE is, held to 1024 bits.\n"
     "  -h, --help           Show this help.\n"
     "\n"
     "Standard output: one \"name<TAB>value\" line per item, in this order:\n"
     "  format             binary32 or binary64\n"
     "  value              the shortest decimal that reads back as the value\n"
+    "  range              only when VALUE overflowed the format (became an infinity) or\n"
+    "                     underflowed it (a number other than 0 became a zero)\n"
     "  kind               normal, subnormal, zero, infinity or NaN\n"
     "  sign               the sign bit, 0 or 1\n"
     "  biased exponent    the exponent field as stored\n"
@@ -41,9 +43,10 @@ const char* const kHelp =
     "With --reference, also:\n"
     "  reference          the reference to 40 significant digits\n"
     "  absolute error     value - reference, 17 significant digits\n"
-    "  relative error     |value - reference| / |reference|, 17 significant digits\n"
+    "  relative error     |value - reference| / |reference|, 17 significant digits; n/a\n"
+    "                     against 0\n"
     "  error in ulps      value - reference in ulps of the format at the reference, two\n"
-    "                     decimals\n"
+    "                     decimals; n/a against 0\n"
     "  correct digits     how many leading significant digits agree at every rounding, or\n"
     "                     exact\n";
 
@@ -114,7 +117,7 @@ int ValueReportCommand::run(const QStringList& arguments, const CliStreams& stre
         mpfr_init2(exact, kReferenceBits);
         const bool read = readReference(parser.value(reference).toStdString(), exact);
         if (read) {
-            lines = inspectionReport(*value, format, exact);
+            lines = textReport(valueText.toStdString(), *value, format, exact);
         }
         mpfr_clear(exact);
         if (!read) {
@@ -123,7 +126,7 @@ int ValueReportCommand::run(const QStringList& arguments, const CliStreams& stre
                 QStringLiteral("--reference '%1' is not a number").arg(parser.value(reference)));
         }
     } else {
-        lines = inspectionReport(*value, format);
+        lines = textReport(valueText.toStdString(), *value, format);
     }
     std::fputs(reportText(lines).c_str(), streams.out);
     return ExitSuccess;

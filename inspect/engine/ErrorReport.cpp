@@ -2,6 +2,7 @@
 
 #include "common/core/CLocaleScope.h"
 #include "inspect/engine/MpfrNumber.h"
+#include "inspect/engine/NumberText.h"
 
 #include <cmath>
 
@@ -57,7 +58,9 @@ std::string agreeingDigits(mpfr_srcptr value, mpfr_srcptr reference)
 
 bool readReference(const std::string& text, mpfr_t reference)
 {
-    if (text.empty() || std::isspace(static_cast<unsigned char>(text.front()))) {
+    // MPFR alone would also take its own forms ("0b101", "1@5", "@nan@"): the syntax is checked
+    // first, so that a reference reads exactly what a value reads.
+    if (!isNumberText(text)) {
         return false;
     }
     const quillon::CLocaleScope cLocale;
@@ -82,20 +85,22 @@ ErrorReport compareWithReference(double value, FloatFormat format, const mpfr_t 
     mpfr_sub(difference.get(), exactValue.get(), reference, MPFR_RNDN);
     report.absoluteError = printedReal("%.16Re", difference.get());
 
+    report.correctDigits = agreeingDigits(exactValue.get(), reference);
+    // Both measures scale the error by the reference: against 0 neither means anything (an
+    // ulp there would be the smallest subnormal's, and any error billions of them).
     if (mpfr_zero_p(reference)) {
-        report.relativeError = "n/a";
-    } else {
-        MpfrNumber relative(kReferenceBits);
-        mpfr_div(relative.get(), difference.get(), reference, MPFR_RNDN);
-        mpfr_abs(relative.get(), relative.get(), MPFR_RNDN);
-        report.relativeError = printedReal("%.16Re", relative.get());
+        report.relativeError = report.ulpError = "n/a";
+        return report;
     }
+    MpfrNumber relative(kReferenceBits);
+    mpfr_div(relative.get(), difference.get(), reference, MPFR_RNDN);
+    mpfr_abs(relative.get(), relative.get(), MPFR_RNDN);
+    report.relativeError = printedReal("%.16Re", relative.get());
 
     // 2^e <= |reference| < 2^(e+1) with e = MPFR's exponent - 1.
-    const int binaryExponent = mpfr_zero_p(reference) ? -100000 : int(mpfr_get_exp(reference)) - 1;
+    const int binaryExponent = int(mpfr_get_exp(reference)) - 1;
     MpfrNumber inUlps(kReferenceBits);
     mpfr_mul_2si(inUlps.get(), difference.get(), -ulpExponent(binaryExponent, format), MPFR_RNDN);
     report.ulpError = printedReal("%.2Rf", inUlps.get());
-    report.correctDigits = agreeingDigits(exactValue.get(), reference);
     return report;
 }

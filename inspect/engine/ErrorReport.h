@@ -19,7 +19,7 @@ struct ErrorReport {
     std::string absoluteError;
     std::string relativeError;
     // value - reference in units in the last place of the value's format at the reference, to
-    // two decimals.
+    // two decimals ("n/a" against 0, and for infinite or NaN values).
     std::string ulpError;
     // How many leading significant decimal digits agree: the largest k such that value and
     // reference rounded to 1, 2, ..., k significant digits are equal; "exact" when they are
@@ -30,8 +30,8 @@ struct ErrorReport {
 // An MPFR number printed with mpfr_printf's `format` ("%.16Re", say) in the C locale.
 std::string printedReal(const char* format, mpfr_srcptr number);
 
-// Reads a decimal (or hex-float) text into `reference` at kReferenceBits, rounded to nearest;
-// false when the text is not a whole number.
+// Reads a text in isNumberText's syntax into `reference` at kReferenceBits, rounded to nearest;
+// false when the text is not a whole number in that syntax.
 bool readReference(const std::string& text, mpfr_t reference);
 
 // `reference` is held at any precision; `value` is representable in `format`.

@@ -2,6 +2,7 @@
 
 #include "common/core/CFormat.h"
 #include "common/core/CLocaleScope.h"
+#include "inspect/engine/NumberText.h"
 
 #include <gmp.h>
 
@@ -62,7 +63,7 @@ const char* formatName(FloatFormat format)
 
 std::optional<double> readFloatText(const std::string& text, FloatFormat format)
 {
-    if (text.empty() || std::isspace(static_cast<unsigned char>(text.front()))) {
+    if (!isNumberText(text)) {
         return std::nullopt;
     }
     const quillon::CLocaleScope cLocale;
@@ -80,13 +81,13 @@ std::optional<double> readFloatText(const std::string& text, FloatFormat format)
 
 std::string exactDecimal(double value)
 {
+    const std::string sign = std::signbit(value) ? "-" : "";
     if (std::isnan(value)) {
-        return "nan";
+        return sign + "nan";
     }
     if (std::isinf(value)) {
-        return value < 0 ? "-inf" : "inf";
+        return sign + "inf";
     }
-    const std::string sign = std::signbit(value) ? "-" : "";
     if (value == 0) {
         return sign + "0";
     }

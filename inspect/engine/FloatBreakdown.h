@@ -31,8 +31,8 @@ struct FloatBreakdown {
     std::string ulp;
 };
 
-// The value of `text` (a decimal or C99 hex-float number, "inf" or "nan") rounded once to the
-// format, as a double (every binary32 value is one); nothing when the text is not a number.
+// The value of `text` (in isNumberText's syntax) rounded once to the format, as a double (every
+// binary32 value is one); nothing when the text is not a number.
 std::optional<double> readFloatText(const std::string& text, FloatFormat format);
 
 // `value` must be representable in `format`.
@@ -40,7 +40,7 @@ FloatBreakdown breakDown(double value, FloatFormat format);
 
 // The exact decimal of a finite double
 // ("0.1000000000000000055511151231257827021181583404541015625",
-// "-0", "16777216"), or "inf", "-inf", "nan".
+// "-0", "16777216"), or "inf", "-inf", "nan", "-nan": the sign bit is always shown.
 std::string exactDecimal(double value);
 
 // The unit in the last place of `format` for a real number of this binary exponent (the

@@ -1,6 +1,9 @@
 #include "inspect/engine/InspectionReport.h"
 
 #include "common/core/CFormat.h"
+#include "inspect/engine/NumberText.h"
+
+#include <iterator>
 
 namespace
 {
@@ -48,6 +51,22 @@ std::vector<ReportLine> inspectionReport(double value, FloatFormat format, mpfr_
         lines.push_back({"relative error", error.relativeError});
         lines.push_back({"error in ulps", error.ulpError});
         lines.push_back({"correct digits", error.correctDigits});
+    }
+    return lines;
+}
+
+std::vector<ReportLine> textReport(const std::string& text, double value, FloatFormat format,
+                                   mpfr_srcptr reference)
+{
+    std::vector<ReportLine> lines = inspectionReport(value, format, reference);
+    const TextRange range = textRange(text, value);
+    if (range != TextRange::Kept) {
+        const std::string what = range == TextRange::Overflowed
+                                     ? "overflow: the number is too large for "
+                                     : "underflow: the number is too small for ";
+        const auto afterValue = std::next(lines.begin(), 2);
+        lines.insert(afterValue, {"range", what + formatName(format) + " and rounded to " +
+                                               exactDecimal(value)});
     }
     return lines;
 }

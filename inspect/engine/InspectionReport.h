@@ -27,5 +27,11 @@ std::string shortestText(double value, FloatFormat format);
 std::vector<ReportLine> inspectionReport(double value, FloatFormat format,
                                          mpfr_srcptr reference = nullptr);
 
+// The report of the number a typed `text` stands for, `value` being the text rounded to
+// `format`: inspectionReport's lines, with a "range" line after "value" when the text is a
+// finite number that overflowed the format or one other than 0 that underflowed it.
+std::vector<ReportLine> textReport(const std::string& text, double value, FloatFormat format,
+                                   mpfr_srcptr reference = nullptr);
+
 // One "name<TAB>value" line per item.
 std::string reportText(const std::vector<ReportLine>& lines);

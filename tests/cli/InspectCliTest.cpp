@@ -19,7 +19,7 @@ CliRun inspect(QStringList arguments)
 TEST(InspectCli, PrintsTheWholeReport)
 {
     const std::vector<ReportCase> cases = readReportCases(QUILLON_INSPECT_DATA_DIR "/reports.txt");
-    ASSERT_EQ(cases.size(), 13u);
+    ASSERT_EQ(cases.size(), 17u);
     for (const ReportCase& testCase : cases) {
         QStringList arguments = {QString::fromStdString(testCase.value), QStringLiteral("--as"),
                                  QString::fromStdString(testCase.format)};
@@ -54,6 +54,10 @@ TEST(InspectCli, BadInputIsAUsageError)
         {"0.1", "0.2"},
         {"0.1", "--as", "quad"},
         {"0.1", "--reference", "ten"},
+        // The reference reads what VALUE reads, none of MPFR's own forms.
+        {"5", "--reference", "0b101"},
+        {"5", "--reference", "1@5"},
+        {"5", "--reference", "@nan@"},
         {"1,5"},
         {"0.1", "--bogus"},
     };
@@ -67,14 +71,30 @@ TEST(InspectCli, BadInputIsAUsageError)
     }
 }
 
+// Texts the format cannot hold say where they went, in either format.
+TEST(InspectCli, OverflowAndUnderflowAreNamed)
+{
+    const CliRun over = inspect({"1e309", "--as", "double"});
+    EXPECT_EQ(over.exitCode, 0);
+    EXPECT_TRUE(over.out.contains(QStringLiteral("\nvalue\tinf\nrange\toverflow: the number is too "
+                                                 "large for binary64 and rounded to inf\n")));
+    const CliRun under = inspect({"-1e-46"});
+    EXPECT_EQ(under.exitCode, 0);
+    EXPECT_TRUE(under.out.contains(QStringLiteral("\nvalue\t-0\nrange\tunderflow: the number is "
+                                                  "too small for binary32 and rounded to -0\n")));
+    const CliRun kept = inspect({"1e-40"});
+    EXPECT_EQ(kept.exitCode, 0);
+    EXPECT_FALSE(kept.out.contains(QStringLiteral("range\t")));
+}
+
 TEST(InspectCli, HelpNamesEveryItem)
 {
     const CliRun run = inspect({"--help"});
     EXPECT_EQ(run.exitCode, 0);
     for (const char* item :
-         {"format", "value", "kind", "sign", "biased exponent", "unbiased exponent", "significand",
-          "bits", "hex float", "exact decimal", "next down", "next up", "ulp", "reference",
-          "absolute error", "relative error", "error in ulps", "correct digits"}) {
+         {"format", "value", "range", "kind", "sign", "biased exponent", "unbiased exponent",
+          "significand", "bits", "hex float", "exact decimal", "next down", "next up", "ulp",
+          "reference", "absolute error", "relative error", "error in ulps", "correct digits"}) {
         EXPECT_TRUE(run.out.contains(QStringLiteral("\n  ") + QLatin1String(item) + ' ')) << item;
     }
 }
