@@ -1,6 +1,9 @@
 #include "inspect/engine/RootsReference.h"
 
 #include "inspect/engine/ErrorReport.h"
+#include "inspect/engine/GmpRational.h"
+
+#include <cmath>
 
 std::optional<std::array<MpfrNumber, 7>> rootsReference(mpf_srcptr a, mpf_srcptr b, mpf_srcptr c)
 {
@@ -35,4 +38,24 @@ std::optional<std::array<MpfrNumber, 7>> rootsReference(mpf_srcptr a, mpf_srcptr
     mpfr_set_zero(largeResidual.get(), 1);
     mpfr_set_zero(smallResidual.get(), 1);
     return values;
+}
+
+std::optional<MpfrNumber> residualAt(mpf_srcptr a, mpf_srcptr b, mpf_srcptr c, double root)
+{
+    if (!std::isfinite(root)) {
+        return std::nullopt;
+    }
+    GmpRational x, sum, term;
+    mpq_set_d(x.get(), root);
+    // (a x + b) x + c, every step exact.
+    mpq_set_f(sum.get(), a);
+    mpq_mul(sum.get(), sum.get(), x.get());
+    mpq_set_f(term.get(), b);
+    mpq_add(sum.get(), sum.get(), term.get());
+    mpq_mul(sum.get(), sum.get(), x.get());
+    mpq_set_f(term.get(), c);
+    mpq_add(sum.get(), sum.get(), term.get());
+    MpfrNumber residual(kReferenceBits);
+    mpfr_set_q(residual.get(), sum.get(), MPFR_RNDN);
+    return residual;
 }

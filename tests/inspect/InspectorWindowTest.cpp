@@ -27,6 +27,7 @@ private slots:
     void cleanup();
     void everyTabEndsItsLastToolMenuWithTheInspector();
     void clickingARootsCellInspectsIt();
+    void residualCellsShowWhatTheComputedRootLeaves();
     void cellsWithoutAnIeeeValueSayWhy();
     void clickingAnAssociativeLawNodeInspectsIt();
     void clickingASineNodeSplitsItsError();
@@ -141,6 +142,34 @@ void InspectorWindowTest::clickingARootsCellInspectsIt()
     QVERIFY(copied.contains(QStringLiteral("MPFR at 1024 bits")));
 }
 
+// Start-up, x^2 + 1000 x + 1. The true roots leave 0, so the residual cells are compared with
+// what each column's own root leaves, worked out with Python fractions: naive single
+// precision's large root -4125 / 2^22 leaves -0.007079063914716243743896484375 exactly, which
+// the column's double evaluation hits exactly; the double column's root -0.0010000010000226212
+// leaves -2.0621109706952326827e-11, which its evaluation misses by 4.93e-17.
+void InspectorWindowTest::residualCellsShowWhatTheComputedRootLeaves()
+{
+    QTest::mouseClick(cell("roots_result1_1"), Qt::LeftButton);
+    QTRY_VERIFY(inspector() != nullptr && inspector()->isVisible());
+    QCOMPARE(inspector()->findChild<QLabel*>(QStringLiteral("inspector_source"))->text(),
+             QStringLiteral("Roots, Naive Single P., a*x1^2 + b*x1 + c"));
+    QCOMPARE(reported("reference"), QStringLiteral("-0.007079063914716243743896484375"));
+    QCOMPARE(reported("correct digits"), QStringLiteral("exact"));
+    QCOMPARE(reported("x1"), QStringLiteral("-0.0010070801"));
+    QCOMPARE(reported("x1 exact decimal"), QStringLiteral("-0.001007080078125"));
+    const QString note = inspector()->findChild<QLabel*>(QStringLiteral("inspector_note"))->text();
+    QVERIFY(note.contains(
+        QStringLiteral("a x^2 + b x + c at x1, the large root this column computed")));
+    QVERIFY(note.contains(QStringLiteral("only an exact root leaves 0")));
+
+    QTest::mouseClick(cell("roots_result1_3"), Qt::LeftButton);
+    QCOMPARE(reported("format"), QStringLiteral("binary64"));
+    QCOMPARE(reported("reference"),
+             QStringLiteral("-2.062110970695232682679629041544309064546e-11"));
+    QCOMPARE(reported("absolute error"), QStringLiteral("4.9292169594276276e-17"));
+    QCOMPARE(reported("x1"), QStringLiteral("-0.0010000010000226212"));
+}
+
 void InspectorWindowTest::cellsWithoutAnIeeeValueSayWhy()
 {
     QTest::mouseClick(cell("roots_root1_label_4"), Qt::LeftButton);
@@ -148,6 +177,11 @@ void InspectorWindowTest::cellsWithoutAnIeeeValueSayWhy()
     QCOMPARE(inspector()->findChild<QLabel*>(QStringLiteral("inspector_source"))->text(),
              QStringLiteral("Roots, Naive High P., large root"));
     QVERIFY(inspector()->reportText().contains(QStringLiteral("256-bit")));
+    // It names the same true values as the other columns' notes do.
+    const QString sameTruth = QStringLiteral("MPFR at 1024 bits");
+    QVERIFY(inspector()->reportText().contains(sameTruth));
+    QTest::mouseClick(cell("roots_root1_label_1"), Qt::LeftButton);
+    QVERIFY(inspector()->reportText().contains(sameTruth));
 }
 
 // The default run (X0 = 0.5, R = 3) at iteration 30: the true value 0.0463994768... lies in

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 namespace
 {
 
@@ -50,4 +52,38 @@ TEST(RootsReference, NoRealRootsNoReference)
 {
     const Coefficient one("1");
     EXPECT_FALSE(rootsReference(one.get(), one.get(), one.get()).has_value());
+}
+
+// What a computed root really leaves, worked out with Python fractions from the decimal
+// coefficients. x^2 + 1000 x + 1: the naive single-precision large root -0.001007080078125
+// (= -4125 / 2^22) and the double one -0.0010000010000226212.
+TEST(RootsReference, ResidualOfAComputedRoot)
+{
+    const Coefficient one("1");
+    const Coefficient thousand("1000");
+    const auto single = residualAt(one.get(), thousand.get(), one.get(), -0.001007080078125);
+    ASSERT_TRUE(single.has_value());
+    EXPECT_EQ(forty(*single), "-0.007079063914716243743896484375");
+    const auto dbl = residualAt(one.get(), thousand.get(), one.get(), -0.0010000010000226212);
+    ASSERT_TRUE(dbl.has_value());
+    EXPECT_EQ(forty(*dbl), "-2.062110970695232682679629041544309064546e-11");
+}
+
+// Example 3 (0.01 x^2 + 100 x + 249999.99999): single precision sees a zero discriminant and
+// the root -5000, which with the coefficients as typed leaves 250000 - 500000 + 249999.99999.
+TEST(RootsReference, ResidualUsesTheCoefficientsAsTyped)
+{
+    const Coefficient a("0.01");
+    const Coefficient b("100");
+    const Coefficient c("249999.99999");
+    const auto residual = residualAt(a.get(), b.get(), c.get(), -5000.0);
+    ASSERT_TRUE(residual.has_value());
+    EXPECT_EQ(forty(*residual), "-1e-05");
+}
+
+TEST(RootsReference, NoResidualOfARootThatIsNotFinite)
+{
+    const Coefficient one("1");
+    EXPECT_FALSE(residualAt(one.get(), one.get(), one.get(), INFINITY).has_value());
+    EXPECT_FALSE(residualAt(one.get(), one.get(), one.get(), NAN).has_value());
 }
