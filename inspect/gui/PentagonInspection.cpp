@@ -18,13 +18,15 @@ Inspection pentagonInspection(const PentagonEngine& engine, int entry, int point
         ins = counts.numIns;
         outs = counts.numOuts;
     }
-    inspection.source = entry == 0
-                            ? QObject::tr("Pentagon 0 (the initial one), point %1, x").arg(point)
-                            : QObject::tr("Pentagon %1 (after %2 Ins and %3 Outs), point %4, x")
-                                  .arg(entry)
-                                  .arg(ins)
-                                  .arg(outs)
-                                  .arg(point);
+    // Numbered from 0, as the history export's "Point 0: X, Y; " .. "Point 4: X, Y; " do.
+    const int exportedPoint = point - 1;
+    inspection.source =
+        entry == 0 ? QObject::tr("Pentagon 0 (the initial one), point %1, x").arg(exportedPoint)
+                   : QObject::tr("Pentagon %1 (after %2 Ins and %3 Outs), point %4, x")
+                         .arg(entry)
+                         .arg(ins)
+                         .arg(outs)
+                         .arg(exportedPoint);
     inspection.value = double(pentagon.x(point));
     inspection.format = FloatFormat::Single;
     const double y = double(pentagon.y(point));

@@ -30,8 +30,8 @@ Inspection sineInspection(const SineResults& results, int approach, int index)
     const SineReference reference = sineReference(results.degrees, argument, factor, index + 1);
 
     Inspection inspection;
-    inspection.source = QObject::tr("Sine, Func%1 (%2), the sum of %3 terms")
-                            .arg(approach + 1)
+    // The approach by the long name its legend entry shows.
+    inspection.source = QObject::tr("Sine, %1, the sum of %2 terms")
                             .arg(QLatin1String(way.longName))
                             .arg(index + 1);
     inspection.value = double(results.series[size_t(approach)].sums[size_t(index)]);
