@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <regex>
 
 namespace
 {
@@ -27,16 +26,50 @@ bool hasNonZeroDigit(const std::string& text)
            std::string::npos;
 }
 
+// Moves `at` past the decimal (or hexadecimal) digits there; returns how many it passed.
+size_t skipDigits(const std::string& text, size_t& at, bool hex)
+{
+    const size_t start = at;
+    while (at < text.size() && (hex ? std::isxdigit(static_cast<unsigned char>(text[at]))
+                                    : std::isdigit(static_cast<unsigned char>(text[at])))) {
+        ++at;
+    }
+    return at - start;
+}
+
 } // namespace
 
 bool isNumberText(const std::string& text)
 {
-    static const std::regex number("[+-]?("
-                                   "([0-9]+[.]?[0-9]*|[.][0-9]+)(e[+-]?[0-9]+)?|"
-                                   "0x([0-9a-f]+[.]?[0-9a-f]*|[.][0-9a-f]+)(p[+-]?[0-9]+)?|"
-                                   "inf|infinity|nan)",
-                                   std::regex::icase | std::regex::optimize);
-    return std::regex_match(text, number);
+    // Scanned by hand, in one pass: a regular expression engine that backtracks recursively
+    // runs out of stack on a text of some ten thousand digits.
+    const size_t signLength = !text.empty() && (text[0] == '+' || text[0] == '-') ? 1 : 0;
+    std::string rest = text.substr(signLength);
+    std::transform(rest.begin(), rest.end(), rest.begin(),
+                   [](char ch) { return char(std::tolower(static_cast<unsigned char>(ch))); });
+    if (rest == "inf" || rest == "infinity" || rest == "nan") {
+        return true;
+    }
+    const bool hex = rest.rfind("0x", 0) == 0;
+    size_t at = hex ? 2 : 0;
+    size_t digits = skipDigits(rest, at, hex);
+    if (at < rest.size() && rest[at] == '.') {
+        ++at;
+        digits += skipDigits(rest, at, hex);
+    }
+    if (digits == 0) {
+        return false;
+    }
+    if (at < rest.size() && rest[at] == (hex ? 'p' : 'e')) {
+        ++at;
+        if (at < rest.size() && (rest[at] == '+' || rest[at] == '-')) {
+            ++at;
+        }
+        if (skipDigits(rest, at, false) == 0) {
+            return false;
+        }
+    }
+    return at == rest.size();
 }
 
 TextRange textRange(const std::string& text, double rounded)

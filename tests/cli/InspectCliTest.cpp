@@ -82,6 +82,9 @@ TEST(InspectCli, OverflowAndUnderflowAreNamed)
     EXPECT_EQ(under.exitCode, 0);
     EXPECT_TRUE(under.out.contains(QStringLiteral("\nvalue\t-0\nrange\tunderflow: the number is "
                                                   "too small for binary32 and rounded to -0\n")));
+    const CliRun longText = inspect({QString(100000, QLatin1Char('9'))});
+    EXPECT_EQ(longText.exitCode, 0);
+    EXPECT_TRUE(longText.out.contains(QStringLiteral("\nrange\toverflow: ")));
     const CliRun kept = inspect({"1e-40"});
     EXPECT_EQ(kept.exitCode, 0);
     EXPECT_FALSE(kept.out.contains(QStringLiteral("range\t")));

@@ -104,6 +104,22 @@ TEST(InspectionReport, ValueAndReferenceReadOneSyntax)
     }
 }
 
+// Texts as long as a command line allows are read in one pass, not by a recursion as deep as
+// the text is long.
+TEST(InspectionReport, LongTextsAreRead)
+{
+    const std::string ones(130000, '1');
+    EXPECT_EQ(readFloatText(ones, FloatFormat::Single), INFINITY);
+    const std::string tiny = "0." + std::string(130000, '0') + "1";
+    EXPECT_EQ(readFloatText(tiny, FloatFormat::Double), 0.0);
+    mpfr_t reference;
+    mpfr_init2(reference, kReferenceBits);
+    EXPECT_TRUE(readReference("-0." + ones, reference));
+    // -0.111... is -1/9 but for the last 10^-130000.
+    EXPECT_EQ(mpfr_get_d(reference, MPFR_RNDN), -1.0 / 9.0);
+    mpfr_clear(reference);
+}
+
 TEST(InspectionReport, ExactDecimals)
 {
     EXPECT_EQ(exactDecimal(0.5), "0.5");
