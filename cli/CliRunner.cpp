@@ -1,5 +1,7 @@
 #include "cli/CliRunner.h"
 
+#include "cli/StandardOutput.h"
+
 #include <QCommandLineParser>
 
 void CliRunner::addCommand(std::unique_ptr<CliCommand> command)
@@ -50,12 +52,11 @@ int CliRunner::run(const QStringList& arguments, const CliStreams& streams) cons
         return ExitUsageError;
     }
     if (parser.isSet(help)) {
-        std::fputs(qPrintable(helpText()), streams.out);
-        return ExitSuccess;
+        return writeOutput(streams, helpText().toStdString(), "quillon-cli");
     }
     if (parser.isSet(version)) {
-        std::fprintf(streams.out, "quillon-cli %s\n", QUILLON_VERSION);
-        return ExitSuccess;
+        return writeOutput(streams, std::string("quillon-cli ") + QUILLON_VERSION + "\n",
+                           "quillon-cli");
     }
     QStringList positional = parser.positionalArguments();
     if (positional.isEmpty()) {

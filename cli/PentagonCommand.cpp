@@ -104,7 +104,7 @@ int PentagonCommand::run(const QStringList& arguments, const CliStreams& streams
     if (parser.isSet(txt)) {
         status = writeExport(streams, parser.value(txt), history);
     } else {
-        std::fputs(history.c_str(), streams.out);
+        status = writeOutput(streams, history);
     }
     if (status == ExitSuccess) {
         const std::string message = pentagonStatusMessage(engine.lastStatus());

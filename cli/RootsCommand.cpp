@@ -35,22 +35,23 @@ struct Coefficient {
 const Coefficient kCoefficients[] = {
     {"a", kRootsAField}, {"b", kRootsBCField}, {"c", kRootsBCField}};
 
-void printGrid(const RootsSolver& solver, std::FILE* out)
+std::string gridText(const RootsSolver& solver)
 {
-    std::fputs("quantity", out);
+    std::string text = "quantity";
     for (const char* heading : kRootsVariantNames) {
-        std::fprintf(out, "\t%s", heading);
+        text += std::string("\t") + heading;
     }
-    std::fputs("\tagreement\n", out);
+    text += "\tagreement\n";
     const RootsGrid grid = solver.showResults();
     const RootsAgreements agreements = solver.classifyRows();
     for (int row = 0; row < kRootsRowCount; ++row) {
-        std::fputs(kRootsRowNames[row], out);
+        text += kRootsRowNames[row];
         for (const std::string& cell : grid[row]) {
-            std::fprintf(out, "\t%s", cell.c_str());
+            text += "\t" + cell;
         }
-        std::fprintf(out, "\t%d\n", agreements[row]);
+        text += "\t" + std::to_string(agreements[row]) + "\n";
     }
+    return text;
 }
 
 } // namespace
@@ -119,8 +120,9 @@ int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) c
         solver.readC(parser.value(QStringLiteral("c")).toStdString());
         solver.recomputeAll();
     }
-    printGrid(solver, streams.out);
-
+    if (const int status = writeOutput(streams, gridText(solver)); status != ExitSuccess) {
+        return status;
+    }
     if (parser.isSet(txt)) {
         return writeExport(streams, parser.value(txt), rootsTextExport(solver));
     }

@@ -125,6 +125,5 @@ int ValueReportCommand::run(const QStringList& arguments, const CliStreams& stre
     } else {
         lines = inspectionReport(*value, format);
     }
-    std::fputs(reportText(lines).c_str(), streams.out);
-    return ExitSuccess;
+    return writeOutput(streams, reportText(lines));
 }
