@@ -17,7 +17,8 @@ const char* const kHelp =
     "\n"
     "Arguments:\n"
     "  VALUE                A decimal number in standard or exponent notation, a C99 hex-float\n"
-    "                       (0x1.8p+1), inf or nan, with an optional sign.\n"
+    "                       (0x1.8p+1), inf or nan, with an optional sign. A negative VALUE\n"
+    "                       may stand anywhere, or after \"--\" as in: inspect -- -5\n"
     "\n"
     "Options:\n"
     "  --as FORMAT          single or double. Default: single.\n"
@@ -49,6 +50,7 @@ const char* const kHelp =
 
 // A VALUE with a minus sign would read as an option; one that looks like a negative number
 // and does not follow an option that takes it is moved behind "--", so that it reads as VALUE.
+// What the caller put behind a "--" of their own is VALUE already and goes there too.
 QStringList negativeValueLast(const QStringList& arguments, const QStringList& valueOptions)
 {
     static const QRegularExpression negative(QStringLiteral("^-([0-9.]|inf|nan)"),
@@ -57,6 +59,10 @@ QStringList negativeValueLast(const QStringList& arguments, const QStringList& v
     QStringList moved;
     for (int i = 0; i < int(arguments.size()); ++i) {
         const bool optionValue = i > 0 && valueOptions.contains(arguments[i - 1]);
+        if (!optionValue && arguments[i] == QLatin1String("--")) {
+            moved << arguments.mid(i + 1);
+            break;
+        }
         if (!optionValue && negative.match(arguments[i]).hasMatch()) {
             moved << arguments[i];
         } else {
