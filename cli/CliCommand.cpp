@@ -1,5 +1,6 @@
 #include "cli/CliCommand.h"
 
+#include "cli/ArgumentText.h"
 #include "cli/StandardOutput.h"
 #include "common/core/SafeFileWriter.h"
 
@@ -19,14 +20,16 @@ std::optional<int> CliCommand::parseArguments(QCommandLineParser& parser,
     const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")}, QString());
     parser.addOption(helpOption);
     if (!parser.parse(QStringList{name()} + arguments)) {
-        return usageError(streams, parser.errorText());
+        // The parser's message quotes the unknown option as it was given.
+        return usageError(streams, shownArgument(parser.errorText()));
     }
     if (parser.isSet(helpOption)) {
         return writeOutput(streams, help);
     }
     if (parser.positionalArguments().size() > positionals) {
-        return usageError(streams, QStringLiteral("unexpected argument '%1'")
-                                       .arg(parser.positionalArguments().at(positionals)));
+        return usageError(streams,
+                          QStringLiteral("unexpected argument '%1'")
+                              .arg(shownArgument(parser.positionalArguments().at(positionals))));
     }
     return std::nullopt;
 }

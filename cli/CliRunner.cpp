@@ -1,5 +1,6 @@
 #include "cli/CliRunner.h"
 
+#include "cli/ArgumentText.h"
 #include "cli/StandardOutput.h"
 
 #include <QCommandLineParser>
@@ -48,7 +49,8 @@ int CliRunner::run(const QStringList& arguments, const CliStreams& streams) cons
     parser.addOption(help);
     parser.addOption(version);
     if (!parser.parse(arguments)) {
-        std::fprintf(streams.err, "quillon-cli: %s\n", qPrintable(parser.errorText()));
+        std::fprintf(streams.err, "quillon-cli: %s\n",
+                     qPrintable(shownArgument(parser.errorText())));
         return ExitUsageError;
     }
     if (parser.isSet(help)) {
@@ -67,7 +69,7 @@ int CliRunner::run(const QStringList& arguments, const CliStreams& streams) cons
     const CliCommand* command = commandNamed(moduleName);
     if (command == nullptr) {
         std::fprintf(streams.err, "quillon-cli: unknown module '%s' (try --help)\n",
-                     qPrintable(moduleName));
+                     qPrintable(shownArgument(moduleName)));
         return ExitUsageError;
     }
     return command->run(positional, streams);

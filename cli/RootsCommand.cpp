@@ -1,5 +1,6 @@
 #include "cli/RootsCommand.h"
 
+#include "cli/ArgumentText.h"
 #include "roots/engine/RootsFieldRule.h"
 #include "roots/engine/RootsSolver.h"
 #include "roots/engine/RootsTextExport.h"
@@ -85,8 +86,9 @@ int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) c
         const QString value = parser.value(example);
         if (value != QLatin1String("1") && value != QLatin1String("2") &&
             value != QLatin1String("3")) {
-            return usageError(streams,
-                              QStringLiteral("--example must be 1, 2 or 3, not '%1'").arg(value));
+            return usageError(
+                streams,
+                QStringLiteral("--example must be 1, 2 or 3, not '%1'").arg(shownArgument(value)));
         }
         exampleNumber = value.toInt();
     }
@@ -97,7 +99,7 @@ int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) c
             return usageError(streams,
                               QStringLiteral("--%1 '%2' is not a number its field accepts (a "
                                              "decimal from %3 to %4 with at most %5 decimals)")
-                                  .arg(option, parser.value(option))
+                                  .arg(option, shownArgument(parser.value(option)))
                                   .arg(coefficient.range.bottom)
                                   .arg(coefficient.range.top)
                                   .arg(coefficient.range.decimals));

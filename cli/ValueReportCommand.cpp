@@ -1,5 +1,6 @@
 #include "cli/ValueReportCommand.h"
 
+#include "cli/ArgumentText.h"
 #include "inspect/engine/InspectionReport.h"
 
 #include <QCommandLineParser>
@@ -104,15 +105,16 @@ int ValueReportCommand::run(const QStringList& arguments, const CliStreams& stre
     }
     const QString formatName = parser.isSet(as) ? parser.value(as) : QStringLiteral("single");
     if (formatName != QLatin1String("single") && formatName != QLatin1String("double")) {
-        return usageError(streams,
-                          QStringLiteral("--as '%1' is neither single nor double").arg(formatName));
+        return usageError(streams, QStringLiteral("--as '%1' is neither single nor double")
+                                       .arg(shownArgument(formatName)));
     }
     const FloatFormat format =
         formatName == QLatin1String("single") ? FloatFormat::Single : FloatFormat::Double;
     const QString valueText = parser.positionalArguments().first();
     const std::optional<double> value = readFloatText(valueText.toStdString(), format);
     if (!value) {
-        return usageError(streams, QStringLiteral("VALUE '%1' is not a number").arg(valueText));
+        return usageError(
+            streams, QStringLiteral("VALUE '%1' is not a number").arg(shownArgument(valueText)));
     }
     std::vector<ReportLine> lines;
     if (parser.isSet(reference)) {
@@ -124,9 +126,8 @@ int ValueReportCommand::run(const QStringList& arguments, const CliStreams& stre
         }
         mpfr_clear(exact);
         if (!read) {
-            return usageError(
-                streams,
-                QStringLiteral("--reference '%1' is not a number").arg(parser.value(reference)));
+            return usageError(streams, QStringLiteral("--reference '%1' is not a number")
+                                           .arg(shownArgument(parser.value(reference))));
         }
     } else {
         lines = inspectionReport(*value, format);
