@@ -115,6 +115,19 @@ TEST(SafeFileWriter, MissingFolderFailsAndCreatesNothing)
     EXPECT_EQ(entriesIn(folder.path()), 0u);
 }
 
+TEST(SafeFileWriter, FolderThatRefusesNewFilesIsNamedAsTheCause)
+{
+    // /proc/version exists, but /proc holds no files but its own: creating one there fails
+    // with ENOENT, which must not be passed on as "No such file or directory".
+    for (const std::string path : {"/proc/version", "/proc/quillon-new.txt"}) {
+        std::string error;
+        EXPECT_FALSE(writeFileAtomically(path, "x", error)) << path;
+        EXPECT_EQ(error, "cannot write \"" + path + "\": its folder does not allow a new file");
+    }
+    std::ifstream version("/proc/version");
+    EXPECT_TRUE(version.good());
+}
+
 TEST(SafeFileWriter, PathThatIsAFolderFailsAndLeavesItAlone)
 {
     TemporaryFolder folder;
