@@ -1,5 +1,7 @@
 #include "tests/cli/CliRun.h"
 
+#include "tests/common/FilePermissionsEnforced.h"
+
 #include <QFile>
 #include <QProcess>
 #include <csignal>
@@ -60,16 +62,9 @@ void directOutput(QProcess& process, OutputSink sink, int pipeWriter)
     }
 }
 
-} // namespace
-
-CliRun CliRun::of(const QStringList& arguments, OutputSink sink)
+// Starts the quillon-cli this build made and waits for it.
+CliRun runToTheEnd(QProcess& process, const QStringList& arguments)
 {
-    QProcess process;
-    std::optional<PipeWithoutReader> pipe;
-    if (sink == OutputSink::PipeWithoutReader) {
-        pipe.emplace();
-    }
-    directOutput(process, sink, pipe ? pipe->writingEnd() : -1);
     process.start(QStringLiteral(QUILLON_CLI_PATH), arguments);
     CliRun run;
     if (!process.waitForFinished(30000) || process.exitStatus() != QProcess::NormalExit) {
@@ -80,6 +75,33 @@ CliRun CliRun::of(const QStringList& arguments, OutputSink sink)
     run.out = QString::fromUtf8(process.readAllStandardOutput());
     run.err = QString::fromUtf8(process.readAllStandardError());
     return run;
+}
+
+} // namespace
+
+CliRun CliRun::of(const QStringList& arguments, OutputSink sink)
+{
+    QProcess process;
+    std::optional<PipeWithoutReader> pipe;
+    if (sink == OutputSink::PipeWithoutReader) {
+        pipe.emplace();
+    }
+    directOutput(process, sink, pipe ? pipe->writingEnd() : -1);
+    return runToTheEnd(process, arguments);
+}
+
+CliRun CliRun::obeyingFilePermissions(const QStringList& arguments)
+{
+    QProcess process;
+    process.setChildProcessModifier([] {
+        if (!FilePermissionsEnforced::giveUpForGood()) {
+            static const char kMessage[] = "cannot give up the permission overrides\n";
+            [[maybe_unused]] const ssize_t written =
+                ::write(STDERR_FILENO, kMessage, sizeof kMessage - 1);
+            ::_exit(126);
+        }
+    });
+    return runToTheEnd(process, arguments);
 }
 
 QString fileText(const QString& path)

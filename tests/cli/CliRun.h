@@ -20,6 +20,11 @@ struct CliRun {
     // Runs the quillon-cli that this build made with `arguments` and waits for it. A run
     // that a signal ends keeps exitCode -1.
     static CliRun of(const QStringList& arguments, OutputSink sink = OutputSink::Captured);
+
+    // Runs like `of`, but quillon-cli starts without the capabilities that let the superuser
+    // ignore file permissions (FilePermissionsEnforced), so that a read-only folder stops it
+    // whoever runs the tests. If it cannot give them up, it exits with status 126.
+    static CliRun obeyingFilePermissions(const QStringList& arguments);
 };
 
 // The whole text of a file, or "<cannot read PATH>" when it cannot be read, so that a
