@@ -5,42 +5,13 @@
 #include <QFile>
 #include <QProcess>
 #include <csignal>
-#include <optional>
 #include <unistd.h>
 
 namespace
 {
 
-// A pipe whose reading end is already closed: writing to the other end fails with EPIPE (or
-// raises SIGPIPE). Closes the writing end when it goes.
-class PipeWithoutReader
-{
-public:
-    PipeWithoutReader()
-    {
-        int ends[2] = {-1, -1};
-        if (::pipe(ends) == 0) {
-            ::close(ends[0]);
-            writer = ends[1];
-        }
-    }
-    ~PipeWithoutReader()
-    {
-        if (writer >= 0) {
-            ::close(writer);
-        }
-    }
-    PipeWithoutReader(const PipeWithoutReader&) = delete;
-    PipeWithoutReader& operator=(const PipeWithoutReader&) = delete;
-
-    int writingEnd() const { return writer; }
-
-private:
-    int writer = -1;
-};
-
 // Sends the child's standard output where `sink` says; `pipeWriter` is the writing end of a
-// PipeWithoutReader, used only in the child, between fork and exec.
+// pipe whose reading end is closed, used only in the child, between fork and exec.
 void directOutput(QProcess& process, OutputSink sink, int pipeWriter)
 {
     switch (sink) {
@@ -81,13 +52,17 @@ CliRun runToTheEnd(QProcess& process, const QStringList& arguments)
 
 CliRun CliRun::of(const QStringList& arguments, OutputSink sink)
 {
-    QProcess process;
-    std::optional<PipeWithoutReader> pipe;
-    if (sink == OutputSink::PipeWithoutReader) {
-        pipe.emplace();
+    int pipeEnds[2] = {-1, -1};
+    if (sink == OutputSink::PipeWithoutReader && ::pipe(pipeEnds) == 0) {
+        ::close(pipeEnds[0]);
     }
-    directOutput(process, sink, pipe ? pipe->writingEnd() : -1);
-    return runToTheEnd(process, arguments);
+    QProcess process;
+    directOutput(process, sink, pipeEnds[1]);
+    const CliRun run = runToTheEnd(process, arguments);
+    if (pipeEnds[1] >= 0) {
+        ::close(pipeEnds[1]);
+    }
+    return run;
 }
 
 CliRun CliRun::obeyingFilePermissions(const QStringList& arguments)
