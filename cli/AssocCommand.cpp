@@ -2,6 +2,7 @@
 
 #include "assoc/engine/AssoFiles.h"
 #include "assoc/engine/AssoRecurrence.h"
+#include "cli/ArgumentText.h"
 #include "common/core/FieldValidation.h"
 
 #include <QCommandLineParser>
@@ -69,13 +70,13 @@ int AssocCommand::run(const QStringList& arguments, const CliStreams& streams) c
         if (parser.isSet(option) && !typeableDecimal(value)) {
             return usageError(streams, QStringLiteral("--%1 '%2' cannot be typed into its field "
                                                       "(a decimal with at most 2 decimals)")
-                                           .arg(option.names().first(), value));
+                                           .arg(option.names().first(), shownArgument(value)));
         }
     }
     if (parser.isSet(n) && !typeableCount(parser.value(n))) {
         return usageError(streams, QStringLiteral("--n '%1' cannot be typed into its field (a "
                                                   "whole number of at most 5 digits)")
-                                       .arg(parser.value(n)));
+                                       .arg(shownArgument(parser.value(n))));
     }
 
     // The fields' texts are read the way the tab reads them: unreadable text is 0.

@@ -1,5 +1,7 @@
 #include "cli/CliCommand.h"
 
+#include "cli/ArgumentText.h"
+#include "cli/StandardOutput.h"
 #include "common/core/SafeFileWriter.h"
 
 #include <QCommandLineParser>
@@ -18,17 +20,23 @@ std::optional<int> CliCommand::parseArguments(QCommandLineParser& parser,
     const QCommandLineOption helpOption({QStringLiteral("h"), QStringLiteral("help")}, QString());
     parser.addOption(helpOption);
     if (!parser.parse(QStringList{name()} + arguments)) {
-        return usageError(streams, parser.errorText());
+        // The parser's message quotes the unknown option as it was given.
+        return usageError(streams, shownArgument(parser.errorText()));
     }
     if (parser.isSet(helpOption)) {
-        std::fputs(help, streams.out);
-        return ExitSuccess;
+        return writeOutput(streams, help);
     }
     if (parser.positionalArguments().size() > positionals) {
-        return usageError(streams, QStringLiteral("unexpected argument '%1'")
-                                       .arg(parser.positionalArguments().at(positionals)));
+        return usageError(streams,
+                          QStringLiteral("unexpected argument '%1'")
+                              .arg(shownArgument(parser.positionalArguments().at(positionals))));
     }
     return std::nullopt;
+}
+
+int CliCommand::writeOutput(const CliStreams& streams, const std::string& text) const
+{
+    return ::writeOutput(streams, text, "quillon-cli " + name().toStdString());
 }
 
 int CliCommand::writeExport(const CliStreams& streams, const QString& path,
@@ -48,8 +56,7 @@ int CliCommand::writeExports(const CliStreams& streams, const QCommandLineParser
                              const std::string& textExport, const std::string& csvExport) const
 {
     if (!parser.isSet(txt) && !parser.isSet(csv)) {
-        std::fputs(csvExport.c_str(), streams.out);
-        return ExitSuccess;
+        return writeOutput(streams, csvExport);
     }
     if (parser.isSet(txt)) {
         if (const int status = writeExport(streams, parser.value(txt), textExport);

@@ -42,6 +42,10 @@ protected:
                                       const CliStreams& streams, const char* help,
                                       int positionals = 0) const;
 
+    // Writes `text` to the output stream and flushes it. Returns ExitSuccess, or ExitFileError
+    // after a one-line reason when the stream did not take it all.
+    int writeOutput(const CliStreams& streams, const std::string& text) const;
+
     // Writes an export file whole (or not at all) and confirms it on the error stream.
     // Returns ExitSuccess, or ExitFileError after a one-line reason.
     int writeExport(const CliStreams& streams, const QString& path,
@@ -49,7 +53,7 @@ protected:
 
     // Writes the text export to the file of option `txt` and the comma-separated export to
     // that of option `csv`, each when given; with neither, the comma-separated export goes to
-    // standard output. Returns the first failure's status, or ExitSuccess.
+    // the output stream. Returns the first failure's status, or ExitSuccess.
     int writeExports(const CliStreams& streams, const QCommandLineParser& parser,
                      const QCommandLineOption& txt, const QCommandLineOption& csv,
                      const std::string& textExport, const std::string& csvExport) const;

@@ -1,5 +1,8 @@
 #include "cli/CliRunner.h"
 
+#include "cli/ArgumentText.h"
+#include "cli/StandardOutput.h"
+
 #include <QCommandLineParser>
 
 void CliRunner::addCommand(std::unique_ptr<CliCommand> command)
@@ -46,16 +49,16 @@ int CliRunner::run(const QStringList& arguments, const CliStreams& streams) cons
     parser.addOption(help);
     parser.addOption(version);
     if (!parser.parse(arguments)) {
-        std::fprintf(streams.err, "quillon-cli: %s\n", qPrintable(parser.errorText()));
+        std::fprintf(streams.err, "quillon-cli: %s\n",
+                     qPrintable(shownArgument(parser.errorText())));
         return ExitUsageError;
     }
     if (parser.isSet(help)) {
-        std::fputs(qPrintable(helpText()), streams.out);
-        return ExitSuccess;
+        return writeOutput(streams, helpText().toStdString(), "quillon-cli");
     }
     if (parser.isSet(version)) {
-        std::fprintf(streams.out, "quillon-cli %s\n", QUILLON_VERSION);
-        return ExitSuccess;
+        return writeOutput(streams, std::string("quillon-cli ") + QUILLON_VERSION + "\n",
+                           "quillon-cli");
     }
     QStringList positional = parser.positionalArguments();
     if (positional.isEmpty()) {
@@ -66,7 +69,7 @@ int CliRunner::run(const QStringList& arguments, const CliStreams& streams) cons
     const CliCommand* command = commandNamed(moduleName);
     if (command == nullptr) {
         std::fprintf(streams.err, "quillon-cli: unknown module '%s' (try --help)\n",
-                     qPrintable(moduleName));
+                     qPrintable(shownArgument(moduleName)));
         return ExitUsageError;
     }
     return command->run(positional, streams);

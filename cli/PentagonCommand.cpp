@@ -1,5 +1,6 @@
 #include "cli/PentagonCommand.h"
 
+#include "cli/ArgumentText.h"
 #include "common/core/CLocaleScope.h"
 #include "pentagon/engine/PentagonEngine.h"
 #include "pentagon/engine/PentagonFiles.h"
@@ -72,20 +73,19 @@ int PentagonCommand::run(const QStringList& arguments, const CliStreams& streams
     }
     const QString shapeName = parser.isSet(shape) ? parser.value(shape) : QStringLiteral("default");
     if (shapeName != QLatin1String("default") && shapeName != QLatin1String("regular")) {
-        return usageError(
-            streams, QStringLiteral("--shape '%1' is neither default nor regular").arg(shapeName));
+        return usageError(streams, QStringLiteral("--shape '%1' is neither default nor regular")
+                                       .arg(shownArgument(shapeName)));
     }
     float epsilonValue = 0.1f;
     if (parser.isSet(epsilon) && !readEpsilon(parser.value(epsilon), epsilonValue)) {
-        return usageError(
-            streams,
-            QStringLiteral("--epsilon '%1' is not a decimal number").arg(parser.value(epsilon)));
+        return usageError(streams, QStringLiteral("--epsilon '%1' is not a decimal number")
+                                       .arg(shownArgument(parser.value(epsilon))));
     }
     const QString sequence = parser.value(ops);
     static const QRegularExpression steps(QStringLiteral("^[IO]*$"));
     if (!steps.match(sequence).hasMatch()) {
-        return usageError(
-            streams, QStringLiteral("--ops '%1' holds something other than I and O").arg(sequence));
+        return usageError(streams, QStringLiteral("--ops '%1' holds something other than I and O")
+                                       .arg(shownArgument(sequence)));
     }
 
     PentagonEngine engine;
@@ -104,7 +104,7 @@ int PentagonCommand::run(const QStringList& arguments, const CliStreams& streams
     if (parser.isSet(txt)) {
         status = writeExport(streams, parser.value(txt), history);
     } else {
-        std::fputs(history.c_str(), streams.out);
+        status = writeOutput(streams, history);
     }
     if (status == ExitSuccess) {
         const std::string message = pentagonStatusMessage(engine.lastStatus());

@@ -1,5 +1,6 @@
 #include "cli/RootsCommand.h"
 
+#include "cli/ArgumentText.h"
 #include "roots/engine/RootsFieldRule.h"
 #include "roots/engine/RootsSolver.h"
 #include "roots/engine/RootsTextExport.h"
@@ -35,22 +36,23 @@ struct Coefficient {
 const Coefficient kCoefficients[] = {
     {"a", kRootsAField}, {"b", kRootsBCField}, {"c", kRootsBCField}};
 
-void printGrid(const RootsSolver& solver, std::FILE* out)
+std::string gridText(const RootsSolver& solver)
 {
-    std::fputs("quantity", out);
+    std::string text = "quantity";
     for (const char* heading : kRootsVariantNames) {
-        std::fprintf(out, "\t%s", heading);
+        text += std::string("\t") + heading;
     }
-    std::fputs("\tagreement\n", out);
+    text += "\tagreement\n";
     const RootsGrid grid = solver.showResults();
     const RootsAgreements agreements = solver.classifyRows();
     for (int row = 0; row < kRootsRowCount; ++row) {
-        std::fputs(kRootsRowNames[row], out);
+        text += kRootsRowNames[row];
         for (const std::string& cell : grid[row]) {
-            std::fprintf(out, "\t%s", cell.c_str());
+            text += "\t" + cell;
         }
-        std::fprintf(out, "\t%d\n", agreements[row]);
+        text += "\t" + std::to_string(agreements[row]) + "\n";
     }
+    return text;
 }
 
 } // namespace
@@ -84,8 +86,9 @@ int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) c
         const QString value = parser.value(example);
         if (value != QLatin1String("1") && value != QLatin1String("2") &&
             value != QLatin1String("3")) {
-            return usageError(streams,
-                              QStringLiteral("--example must be 1, 2 or 3, not '%1'").arg(value));
+            return usageError(
+                streams,
+                QStringLiteral("--example must be 1, 2 or 3, not '%1'").arg(shownArgument(value)));
         }
         exampleNumber = value.toInt();
     }
@@ -96,7 +99,7 @@ int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) c
             return usageError(streams,
                               QStringLiteral("--%1 '%2' is not a number its field accepts (a "
                                              "decimal from %3 to %4 with at most %5 decimals)")
-                                  .arg(option, parser.value(option))
+                                  .arg(option, shownArgument(parser.value(option)))
                                   .arg(coefficient.range.bottom)
                                   .arg(coefficient.range.top)
                                   .arg(coefficient.range.decimals));
@@ -119,8 +122,9 @@ int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) c
         solver.readC(parser.value(QStringLiteral("c")).toStdString());
         solver.recomputeAll();
     }
-    printGrid(solver, streams.out);
-
+    if (const int status = writeOutput(streams, gridText(solver)); status != ExitSuccess) {
+        return status;
+    }
     if (parser.isSet(txt)) {
         return writeExport(streams, parser.value(txt), rootsTextExport(solver));
     }

@@ -1,5 +1,6 @@
 #include "cli/SineCommand.h"
 
+#include "cli/ArgumentText.h"
 #include "common/core/FieldValidation.h"
 #include "sine/engine/SineApproaches.h"
 #include "sine/engine/SineFiles.h"
@@ -62,12 +63,12 @@ int SineCommand::run(const QStringList& arguments, const CliStreams& streams) co
     if (parser.isSet(x) && !typeable(parser.value(x), -kMaxDegrees, kMaxDegrees)) {
         return usageError(streams, QStringLiteral("--x '%1' cannot be typed into its field (whole "
                                                   "degrees from -1000000 to 1000000)")
-                                       .arg(parser.value(x)));
+                                       .arg(shownArgument(parser.value(x))));
     }
     if (parser.isSet(n) && !typeable(parser.value(n), 1, kMaxTerms)) {
         return usageError(streams, QStringLiteral("--n '%1' cannot be typed into its field (a "
                                                   "whole number of at most 5 digits)")
-                                       .arg(parser.value(n)));
+                                       .arg(shownArgument(parser.value(n))));
     }
 
     // The fields' texts are read the way the tab reads them: unreadable text is 0.

@@ -1,5 +1,6 @@
 #include "cli/ValueReportCommand.h"
 
+#include "cli/ArgumentText.h"
 #include "inspect/engine/InspectionReport.h"
 
 #include <QCommandLineParser>
@@ -17,7 +18,8 @@ const char* const kHelp =
     "\n"
     "Arguments:\n"
     "  VALUE                A decimal number in standard or exponent notation, a C99 hex-float\n"
-    "                       (0x1.8p+1), inf or nan, with an optional sign.\n"
+    "                       (0x1.8p+1), inf or nan, with an optional sign. A negative VALUE\n"
+    "                       may stand anywhere, or after \"--\" as in: inspect -- -5\n"
     "\n"
     "Options:\n"
     "  --as FORMAT          single or double. Default: single.\n"
@@ -52,6 +54,7 @@ const char* const kHelp =
 
 // A VALUE with a minus sign would read as an option; one that looks like a negative number
 // and does not follow an option that takes it is moved behind "--", so that it reads as VALUE.
+// What the caller put behind a "--" of their own is VALUE already and goes there too.
 QStringList negativeValueLast(const QStringList& arguments, const QStringList& valueOptions)
 {
     static const QRegularExpression negative(QStringLiteral("^-([0-9.]|inf|nan)"),
@@ -60,6 +63,10 @@ QStringList negativeValueLast(const QStringList& arguments, const QStringList& v
     QStringList moved;
     for (int i = 0; i < int(arguments.size()); ++i) {
         const bool optionValue = i > 0 && valueOptions.contains(arguments[i - 1]);
+        if (!optionValue && arguments[i] == QLatin1String("--")) {
+            moved << arguments.mid(i + 1);
+            break;
+        }
         if (!optionValue && negative.match(arguments[i]).hasMatch()) {
             moved << arguments[i];
         } else {
@@ -101,15 +108,16 @@ int ValueReportCommand::run(const QStringList& arguments, const CliStreams& stre
     }
     const QString formatName = parser.isSet(as) ? parser.value(as) : QStringLiteral("single");
     if (formatName != QLatin1String("single") && formatName != QLatin1String("double")) {
-        return usageError(streams,
-                          QStringLiteral("--as '%1' is neither single nor double").arg(formatName));
+        return usageError(streams, QStringLiteral("--as '%1' is neither single nor double")
+                                       .arg(shownArgument(formatName)));
     }
     const FloatFormat format =
         formatName == QLatin1String("single") ? FloatFormat::Single : FloatFormat::Double;
     const QString valueText = parser.positionalArguments().first();
     const std::optional<double> value = readFloatText(valueText.toStdString(), format);
     if (!value) {
-        return usageError(streams, QStringLiteral("VALUE '%1' is not a number").arg(valueText));
+        return usageError(
+            streams, QStringLiteral("VALUE '%1' is not a number").arg(shownArgument(valueText)));
     }
     std::vector<ReportLine> lines;
     if (parser.isSet(reference)) {
@@ -121,13 +129,11 @@ int ValueReportCommand::run(const QStringList& arguments, const CliStreams& stre
         }
         mpfr_clear(exact);
         if (!read) {
-            return usageError(
-                streams,
-                QStringLiteral("--reference '%1' is not a number").arg(parser.value(reference)));
+            return usageError(streams, QStringLiteral("--reference '%1' is not a number")
+                                           .arg(shownArgument(parser.value(reference))));
         }
     } else {
         lines = textReport(valueText.toStdString(), *value, format);
     }
-    std::fputs(reportText(lines).c_str(), streams.out);
-    return ExitSuccess;
+    return writeOutput(streams, reportText(lines));
 }

@@ -3,12 +3,14 @@
 #include "cli/PentagonCommand.h"
 #include "cli/RootsCommand.h"
 #include "cli/SineCommand.h"
+#include "cli/StandardOutput.h"
 #include "cli/ValueReportCommand.h"
 
 #include <QCoreApplication>
 
 int main(int argc, char* argv[])
 {
+    prepareStandardStreams();
     QCoreApplication application(argc, argv);
     CliRunner runner;
     runner.addCommand(std::make_unique<RootsCommand>());

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <optional>
 
 namespace quillon
@@ -41,8 +42,23 @@ bool hasOnlyNumberCharacters(const std::string& text, bool integer, int decimals
     return true;
 }
 
+// Whether unsigned digits with an optional fraction have a whole part other than zero.
+bool hasNonZeroWholePart(const std::string& digits)
+{
+    for (const char character : digits) {
+        if (character == '.') {
+            return false;
+        }
+        if (character != '0') {
+            return true;
+        }
+    }
+    return false;
+}
+
 // The number a text of number characters denotes: an optional sign, digits with an optional
-// fraction. Nothing when there is no digit.
+// fraction. A number too large for a double is an infinity of its sign, so that it lies
+// beyond every bound, as its digits do. Nothing when there is no digit.
 std::optional<double> parseNumber(const std::string& text)
 {
     const bool negative = !text.empty() && text[0] == '-';
@@ -53,7 +69,12 @@ std::optional<double> parseNumber(const std::string& text)
     }
     double magnitude = 0.0;
     const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), magnitude);
-    if (result.ec != std::errc() || result.ptr != digits.data() + digits.size()) {
+    if (result.ptr != digits.data() + digits.size()) {
+        return std::nullopt;
+    }
+    if (result.ec == std::errc::result_out_of_range && hasNonZeroWholePart(digits)) {
+        magnitude = std::numeric_limits<double>::infinity();
+    } else if (result.ec != std::errc()) {
         return std::nullopt;
     }
     return negative ? -magnitude : magnitude;

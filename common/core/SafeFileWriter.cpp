@@ -26,9 +26,16 @@ struct WriteTarget {
     struct stat info = {};
 };
 
+// Not an errno: the target's folder exists but refuses to hold a new file (as /proc does,
+// which answers "No such file or directory" about a folder that is plainly there).
+constexpr int kFolderRefusesNewFile = -1;
+
 std::string describeFailure(const std::string& path, int errorNumber)
 {
-    return "cannot write \"" + path + "\": " + std::strerror(errorNumber);
+    const std::string reason = errorNumber == kFolderRefusesNewFile
+                                   ? "its folder does not allow a new file"
+                                   : std::strerror(errorNumber);
+    return "cannot write \"" + path + "\": " + reason;
 }
 
 bool isAbsolute(const std::string& path)
@@ -151,12 +158,20 @@ bool keepPermissions(int fd, const WriteTarget& target)
     return !target.exists || ::fchmod(fd, target.info.st_mode & 07777) == 0;
 }
 
+// Whether `folder` (given as a prefix, "" for the working folder) is an existing folder.
+bool isFolder(const std::string& folder)
+{
+    struct stat info = {};
+    return ::stat(folder.empty() ? "." : folder.c_str(), &info) == 0 && S_ISDIR(info.st_mode);
+}
+
 bool replaceAtomically(const WriteTarget& target, const std::string& contents, int& failure)
 {
     std::string temporary;
-    const int fd = createTemporaryFile(folderPrefix(target.path), temporary);
+    const std::string folder = folderPrefix(target.path);
+    const int fd = createTemporaryFile(folder, temporary);
     if (fd < 0) {
-        failure = errno;
+        failure = errno == ENOENT && isFolder(folder) ? kFolderRefusesNewFile : errno;
         return false;
     }
     const bool written = keepPermissions(fd, target) && writeAll(fd, contents) && ::fsync(fd) == 0;

@@ -14,8 +14,9 @@ namespace quillon
 // A regular file, or a name that does not exist yet, is replaced atomically: the bytes go to a
 // new temporary file with a short name (".quillon-" and eight random letters or digits) in the
 // target's own folder, which is flushed to disk and then renamed over the target. A failure at
-// any point (no such folder, no permission, disk full) leaves whatever was there untouched and
-// no temporary file behind. A replaced file keeps its permission bits.
+// any point (no such folder, a folder that takes no new file, no permission, disk full) leaves
+// whatever was there untouched and no temporary file behind. A replaced file keeps its
+// permission bits.
 //
 // A named pipe, a device or another special file cannot be replaced and is written directly.
 // A folder is never written.

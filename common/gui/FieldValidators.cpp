@@ -1,5 +1,7 @@
 #include "common/gui/FieldValidators.h"
 
+#include "common/gui/DecimalFieldValidator.h"
+
 #include <QDoubleValidator>
 #include <QIntValidator>
 #include <QLocale>
@@ -20,7 +22,7 @@ QLocale cLocaleWithoutGroups()
 
 QDoubleValidator* decimalFieldValidator(double bottom, double top, int decimals, QObject* owner)
 {
-    auto* validator = new QDoubleValidator(bottom, top, decimals, owner);
+    auto* validator = new DecimalFieldValidator(bottom, top, decimals, owner);
     validator->setLocale(cLocaleWithoutGroups());
     validator->setNotation(QDoubleValidator::StandardNotation);
     return validator;

@@ -91,6 +91,22 @@ TEST(AssocCli, BadInputIsOneLineAndWritesNothing)
     }
 }
 
+TEST(AssocCli, NumberTooLargeForADoubleCannotBeTyped)
+{
+    // Ten digits cannot be typed into R or X0, so neither can four hundred, whose value no
+    // double holds.
+    const QString ones(400, QLatin1Char('1'));
+    for (const QStringList& arguments : {QStringList{"--r", ones}, QStringList{"--x0", "-" + ones},
+                                         QStringList{"--r", ones + ".5"}}) {
+        const CliRun run = assoc(arguments + QStringList{"--n", "3"});
+        EXPECT_EQ(run.exitCode, 2) << arguments.first().toStdString();
+        EXPECT_TRUE(run.out.isEmpty()) << run.out.left(200).toStdString();
+        EXPECT_TRUE(
+            run.err.startsWith(QStringLiteral("quillon-cli assoc: %1 '").arg(arguments.first())))
+            << run.err.left(200).toStdString();
+    }
+}
+
 TEST(AssocCli, UnwritableFileIsAFileError)
 {
     QTemporaryDir folder;

@@ -58,6 +58,81 @@ TEST(CliTopLevel, UnknownOptionIsAUsageError)
     expectOneErrorLine(run, QStringLiteral("verbose"));
 }
 
+// 131,000 digits "1234567890123...", about the most one argument can hold on Linux.
+QString longNumber()
+{
+    QString digits;
+    for (int i = 1; i <= 131000; ++i) {
+        digits += QLatin1Char(char('0' + i % 10));
+    }
+    return digits;
+}
+
+TEST(CliTopLevel, ErrorLineShowsTheStartOfALongArgument)
+{
+    const QString number = longNumber();
+    const QString shown =
+        QStringLiteral("'123456789012345678901234567890123456789012345678901234567890...'");
+    const QList<QStringList> runs = {
+        {"roots", "--b", number},
+        {"assoc", "--r", number},
+        {"assoc", "--n", number},
+        {"sine", "--x", number},
+        {"sine", "--n", number},
+        {"pentagon", "--shape", number},
+        {"pentagon", "--ops", number},
+        {"pentagon", "--epsilon", number + "x"},
+        {"inspect", "1", "--as", number},
+        {"inspect", "x" + number},
+        {"inspect", "1", "--reference", "x" + number},
+        {"roots", "--example", number},
+        {"roots", number},
+        {number},
+    };
+    for (const QStringList& arguments : runs) {
+        const CliRun run = CliRun::of(arguments);
+        const std::string what = arguments.join(QLatin1Char(' ')).left(30).toStdString();
+        EXPECT_EQ(run.exitCode, 2) << what;
+        EXPECT_EQ(run.err.count(QLatin1Char('\n')), 1) << what;
+        EXPECT_LE(run.err.size(), 200) << what << ": " << run.err.left(300).toStdString();
+        const QString expected =
+            arguments.last().startsWith(QLatin1Char('x'))
+                ? QStringLiteral(
+                      "'x12345678901234567890123456789012345678901234567890123456789...'")
+                : shown;
+        EXPECT_TRUE(run.err.contains(expected)) << what << ": " << run.err.left(300).toStdString();
+    }
+}
+
+TEST(CliTopLevel, ErrorLineCutsALongUnknownOption)
+{
+    const CliRun run = CliRun::of({"roots", "--" + longNumber()});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.err.count(QLatin1Char('\n')), 1);
+    EXPECT_LE(run.err.size(), 200) << run.err.left(300).toStdString();
+    EXPECT_TRUE(run.err.startsWith(QStringLiteral("quillon-cli roots: Unknown option '1234567890")))
+        << run.err.left(300).toStdString();
+}
+
+TEST(CliTopLevel, ErrorLineStaysOneLineWhateverTheArgumentHolds)
+{
+    const CliRun run = CliRun::of({"assoc", "--r", "1\n2\t3"});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.err.toStdString(),
+              "quillon-cli assoc: --r '1?2?3' cannot be typed into its field (a decimal with at "
+              "most 2 decimals)\n");
+}
+
+TEST(CliTopLevel, ErrorLineNeverCutsACharacterInHalf)
+{
+    // The 60th and 61st UTF-16 units are the two halves of one character.
+    const QString name = QString(59, QLatin1Char('a')) + QStringLiteral("\U0001F600") + "b";
+    const CliRun run = CliRun::of({name});
+    EXPECT_EQ(run.exitCode, 2);
+    EXPECT_EQ(run.err.toStdString(),
+              "quillon-cli: unknown module '" + std::string(59, 'a') + "...' (try --help)\n");
+}
+
 // The runs under a German locale are only worth something when that locale exists: without
 // it the C library stays in the C locale and every number would pass anyway.
 TEST(CliTopLevel, RunsUnderTheLocaleItWasStartedFor)

@@ -46,6 +46,33 @@ TEST(InspectCli, SingleIsTheDefaultAndNegativeReferencesRead)
     EXPECT_TRUE(negative.out.contains(QStringLiteral("error in ulps\t-0.20\n")));
 }
 
+TEST(InspectCli, NegativeValueMayFollowADoubleDash)
+{
+    // -5 in single precision: sign 1, biased exponent 129, fraction .01 (binary).
+    const CliRun plain = inspect({"-5"});
+    EXPECT_EQ(plain.exitCode, 0);
+    EXPECT_TRUE(plain.out.contains(QStringLiteral("bits\t0xc0a00000\n")))
+        << plain.out.toStdString();
+    const CliRun dashed = inspect({"--", "-5"});
+    EXPECT_EQ(dashed.exitCode, 0) << dashed.err.toStdString();
+    EXPECT_EQ(dashed.out.toStdString(), plain.out.toStdString());
+    EXPECT_TRUE(dashed.err.isEmpty()) << dashed.err.toStdString();
+
+    // With a reference of -4.5 the error is -0.5, that is -2^20 ulps of 2^-21 each.
+    for (const QStringList& arguments :
+         {QStringList{"--reference", "-4.5", "-5"}, QStringList{"--reference", "-4.5", "--", "-5"},
+          QStringList{"--as", "single", "--reference=-4.5", "--", "-5"}}) {
+        const CliRun run = inspect(arguments);
+        EXPECT_EQ(run.exitCode, 0) << arguments.join(' ').toStdString();
+        EXPECT_TRUE(run.out.contains(QStringLiteral("bits\t0xc0a00000\n")))
+            << arguments.join(' ').toStdString();
+        EXPECT_TRUE(run.out.contains(QStringLiteral("error in ulps\t-1048576.00\n")))
+            << arguments.join(' ').toStdString() << run.out.toStdString();
+    }
+    const CliRun twoValues = inspect({"--", "-5", "-6"});
+    EXPECT_EQ(twoValues.exitCode, 2);
+}
+
 TEST(InspectCli, BadInputIsAUsageError)
 {
     const QList<QStringList> bad = {

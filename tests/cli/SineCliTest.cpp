@@ -86,6 +86,14 @@ TEST(SineCli, UnwritableFileIsAFileError)
     EXPECT_TRUE(run.err.startsWith(QStringLiteral("quillon-cli sine: cannot write \"")));
 }
 
+TEST(SineCli, FolderThatRefusesNewFilesIsNamedAsTheCause)
+{
+    const CliRun run = sine({"--txt", "/proc/version"});
+    EXPECT_EQ(run.exitCode, 1);
+    EXPECT_EQ(run.err.toStdString(), "quillon-cli sine: cannot write \"/proc/version\": its folder "
+                                     "does not allow a new file\n");
+}
+
 TEST(SineCli, Help)
 {
     const CliRun run = sine({"--help"});

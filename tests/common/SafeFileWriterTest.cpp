@@ -1,4 +1,5 @@
 #include "common/core/SafeFileWriter.h"
+#include "tests/common/FilePermissionsEnforced.h"
 #include "tests/common/FileSizeLimit.h"
 #include "tests/common/TemporaryFolder.h"
 
@@ -115,6 +116,19 @@ TEST(SafeFileWriter, MissingFolderFailsAndCreatesNothing)
     EXPECT_EQ(entriesIn(folder.path()), 0u);
 }
 
+TEST(SafeFileWriter, FolderThatRefusesNewFilesIsNamedAsTheCause)
+{
+    // /proc/version exists, but /proc holds no files but its own: creating one there fails
+    // with ENOENT, which must not be passed on as "No such file or directory".
+    for (const std::string path : {"/proc/version", "/proc/quillon-new.txt"}) {
+        std::string error;
+        EXPECT_FALSE(writeFileAtomically(path, "x", error)) << path;
+        EXPECT_EQ(error, "cannot write \"" + path + "\": its folder does not allow a new file");
+    }
+    std::ifstream version("/proc/version");
+    EXPECT_TRUE(version.good());
+}
+
 TEST(SafeFileWriter, PathThatIsAFolderFailsAndLeavesItAlone)
 {
     TemporaryFolder folder;
@@ -183,15 +197,17 @@ TEST(SafeFileWriter, FailureWhileWritingLeavesTheOldFileUntouched)
 
 TEST(SafeFileWriter, ReadOnlyFolderLeavesTheOldFileUntouched)
 {
-    if (::geteuid() == 0) {
-        GTEST_SKIP() << "the superuser writes into read-only folders";
-    }
     TemporaryFolder folder;
     const std::string path = folder.file("data.txt");
     std::string error;
     ASSERT_TRUE(writeFileAtomically(path, "old contents", error)) << error;
     ASSERT_EQ(::chmod(folder.path().c_str(), 0555), 0);
-    const bool written = writeFileAtomically(path, "new contents", error);
+    bool written = true;
+    {
+        const FilePermissionsEnforced asAnyUser;
+        ASSERT_EQ(asAnyUser.failure(), "");
+        written = writeFileAtomically(path, "new contents", error);
+    }
     ::chmod(folder.path().c_str(), 0700);
     EXPECT_FALSE(written);
     EXPECT_NE(error.find(std::strerror(EACCES)), std::string::npos) << error;

@@ -91,7 +91,15 @@ QStringList corpus()
                          "249999.99999",
                          "0.00000001",
                          "99999999.999999999",
-                         "-0.5"};
+                         "-0.5",
+                         QString(308, '9'),
+                         QString(309, '9'),
+                         QString(400, '1'),
+                         "-" + QString(400, '1'),
+                         "+" + QString(400, '1'),
+                         QString(400, '1') + ".5",
+                         QString(400, '0') + "1",
+                         "0." + QString(400, '0')};
     QRandomGenerator random(12345);
     const QString alphabet = QStringLiteral("0123456789.,-+e ");
     for (int i = 0; i < 3000; ++i) {
@@ -114,6 +122,8 @@ class FieldValidationTest : public QObject
 private slots:
     void decimalFieldsJudgeLikeTheirValidators_data();
     void decimalFieldsJudgeLikeTheirValidators();
+    void decimalFieldsRefuseNumbersTooLargeForADouble_data();
+    void decimalFieldsRefuseNumbersTooLargeForADouble();
     void integerFieldsJudgeLikeTheirValidators_data();
     void integerFieldsJudgeLikeTheirValidators();
 };
@@ -142,6 +152,37 @@ void FieldValidationTest::decimalFieldsJudgeLikeTheirValidators()
         QVERIFY2(validator->validate(text, position) == toQt(ours),
                  qPrintable(QStringLiteral("'%1'").arg(text)));
     }
+}
+
+void FieldValidationTest::decimalFieldsRefuseNumbersTooLargeForADouble_data()
+{
+    decimalFieldsJudgeLikeTheirValidators_data();
+}
+
+// Ten digits are already refused by every decimal field, so four hundred must be too, although
+// no double holds their value; leading zeros keep a small number small.
+void FieldValidationTest::decimalFieldsRefuseNumbersTooLargeForADouble()
+{
+    QFETCH(double, bottom);
+    QFETCH(double, top);
+    QFETCH(int, decimals);
+    std::unique_ptr<QDoubleValidator> validator(
+        quillon::decimalFieldValidator(bottom, top, decimals, nullptr));
+    const QString ones(400, '1');
+    for (QString text : {ones, "-" + ones, "+" + ones, ones + ".5", QString(309, '9'),
+                         QStringLiteral("1234567890")}) {
+        int position = 0;
+        QVERIFY2(validator->validate(text, position) == QValidator::Invalid,
+                 qPrintable(text.left(20)));
+        QVERIFY2(quillon::validateDecimalField(text.toStdString(), bottom, top, decimals) ==
+                     FieldState::Invalid,
+                 qPrintable(text.left(20)));
+    }
+    QString smallNumber = QString(400, '0') + "1";
+    int position = 0;
+    QCOMPARE(validator->validate(smallNumber, position), QValidator::Acceptable);
+    QCOMPARE(quillon::validateDecimalField(smallNumber.toStdString(), bottom, top, decimals),
+             FieldState::Acceptable);
 }
 
 void FieldValidationTest::integerFieldsJudgeLikeTheirValidators_data()
