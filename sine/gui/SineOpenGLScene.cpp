@@ -59,6 +59,15 @@ const char* screenWord(int32_t code)
     }
 }
 
+// A focus field that reads as infinity or NaN would leave the plot without a range: the bound
+// keeps its value.
+void takeFinite(float& bound, std::optional<float> typed)
+{
+    if (typed) {
+        bound = *typed;
+    }
+}
+
 void setGlColor(const quillon::ColorTriple& color)
 {
     glColor3f(color.redF(), color.greenF(), color.blueF());
@@ -178,7 +187,7 @@ void SineOpenGLScene::calculate()
 void SineOpenGLScene::updateYmin()
 {
     if (focusWindow != nullptr) {
-        yLow = focusWindow->yMinText().toFloat();
+        takeFinite(yLow, focusWindow->yMinNumber());
     }
     repaint();
 }
@@ -186,7 +195,7 @@ void SineOpenGLScene::updateYmin()
 void SineOpenGLScene::updateYmax()
 {
     if (focusWindow != nullptr) {
-        yHigh = focusWindow->yMaxText().toFloat();
+        takeFinite(yHigh, focusWindow->yMaxNumber());
     }
     repaint();
 }
@@ -194,8 +203,8 @@ void SineOpenGLScene::updateYmax()
 void SineOpenGLScene::Yapply()
 {
     if (focusWindow != nullptr) {
-        yLow = focusWindow->yMinText().toFloat();
-        yHigh = focusWindow->yMaxText().toFloat();
+        takeFinite(yLow, focusWindow->yMinNumber());
+        takeFinite(yHigh, focusWindow->yMaxNumber());
     }
     repaint();
 }
