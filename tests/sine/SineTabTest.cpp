@@ -66,6 +66,7 @@ private slots:
     void selectNoneLeavesTheGridAndTheLibraryLine();
     void legendClickTogglesAnApproach();
     void errorListNamesTheStoppedSeries();
+    void errorListStaysWholeInsideThePlot();
     void yLabelsAndLargestErrorLine();
     void speedLevelsSetTheTimerAndButtons();
     void pauseTogglesItsText();
@@ -332,6 +333,40 @@ void SineTabTest::errorListNamesTheStoppedSeries()
                                  "Reduced X + Direct eva + Naive  gets an error: Overflow",
                                  "Reduced X + Direct eva + NegPos  gets an error: Overflow",
                                  "Reduced X + Direct eva + Kahan  gets an error: Overflow"}));
+}
+
+// Where the animation pauses itself, the failing index is near the plot's right edge: every
+// line of the list, with the cursor there at any height, lies whole inside the plot.
+void SineTabTest::errorListStaysWholeInsideThePlot()
+{
+    tickUntil([this] { return scene->isAutoPaused(); });
+    scene->allchoose();
+    // 18 nodes revealed: index 17 is at x = 17 * 0.15 + (1.5 - 18 * 0.15) = 1.35, that is
+    // 0.95 of the width.
+    const int nodeX = int(0.95 * view->width());
+    const QFontMetrics metrics(quillon::plotOverlayFont());
+    for (const int y : {2, view->height() / 2, view->height() - 2}) {
+        QTest::mouseMove(view->viewport(), QPoint(nodeX, y));
+        int lines = 0;
+        for (const PaintedText& painted : paintedTexts()) {
+            if (painted.color != QColor(255, 0, 0)) {
+                continue;
+            }
+            ++lines;
+            const QRectF box(painted.position.x(), painted.position.y() - metrics.ascent(),
+                             metrics.horizontalAdvance(painted.text), metrics.height());
+            const QString where = QStringLiteral("%1 at y %2: ").arg(painted.text).arg(y) +
+                                  QStringLiteral("%1,%2 %3x%4")
+                                      .arg(box.x())
+                                      .arg(box.y())
+                                      .arg(box.width())
+                                      .arg(box.height());
+            QVERIFY2(box.left() >= 0 && box.top() >= 0 && box.right() <= view->width() &&
+                         box.bottom() <= view->height(),
+                     qPrintable(where));
+        }
+        QCOMPARE(lines, 6);
+    }
 }
 
 void SineTabTest::yLabelsAndLargestErrorLine()
