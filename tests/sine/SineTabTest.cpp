@@ -67,6 +67,7 @@ private slots:
     void legendClickTogglesAnApproach();
     void errorListNamesTheStoppedSeries();
     void errorListStaysWholeInsideThePlot();
+    void errorModeWithNothingPlottedKeepsTheSceneRange();
     void yLabelsAndLargestErrorLine();
     void speedLevelsSetTheTimerAndButtons();
     void pauseTogglesItsText();
@@ -369,6 +370,24 @@ void SineTabTest::errorListStaysWholeInsideThePlot()
     }
 }
 
+// With no approach selected, error mode has no point to fit: the scene keeps the range it
+// had, through the switch and through the ticks that refit it.
+void SineTabTest::errorModeWithNothingPlottedKeepsTheSceneRange()
+{
+    tickUntil([this] { return scene->xWindow().slideInDone(); });
+    scene->allUnchoose();
+    const float yLow = scene->getYLow();
+    const float yHigh = scene->getYHigh();
+    QVERIFY(yLow < yHigh);
+    child<QCheckBox>("sine_needErrorComparison")->setChecked(true);
+    QVERIFY(scene->isComparingErrors());
+    QCOMPARE(scene->getYLow(), yLow);
+    QCOMPARE(scene->getYHigh(), yHigh);
+    scene->runningMan();
+    QCOMPARE(scene->getYLow(), yLow);
+    QCOMPARE(scene->getYHigh(), yHigh);
+}
+
 void SineTabTest::yLabelsAndLargestErrorLine()
 {
     tickUntil([this] { return scene->xWindow().slideInDone(); });
@@ -461,6 +480,7 @@ void SineTabTest::clickWithoutMovementDoesNotZoom()
     QCOMPARE(scene->zoomDepth(), 0);
 }
 
+// The colour file holds the thirteen default colours, then what the colour map changed.
 void SineTabTest::filesThroughTheDialogs()
 {
     const QString txt = folder->filePath(QStringLiteral("sine data.txt"));
@@ -469,10 +489,30 @@ void SineTabTest::filesThroughTheDialogs()
     saveOrOpen("&Save data to a CSV file ...", csv);
     QCOMPARE(fileContents(txt), sineGolden("default.txt"));
     QCOMPARE(fileContents(csv), sineGolden("default.csv"));
+    const std::string defaults = "Sine Color R 0 G 0 B 0\n"
+                                 "Func1 Color R 255 G 192 B 203\n"
+                                 "Func2 Color R 255 G 20 B 147\n"
+                                 "Func3 Color R 199 G 21 B 133\n"
+                                 "Func4 Color R 139 G 0 B 0\n"
+                                 "Func5 Color R 255 G 0 B 0\n"
+                                 "Func6 Color R 255 G 69 B 0\n"
+                                 "Func7 Color R 255 G 215 B 0\n"
+                                 "Func8 Color R 128 G 128 B 0\n"
+                                 "Func9 Color R 0 G 255 B 0\n"
+                                 "Func10 Color R 0 G 255 B 255\n"
+                                 "Func11 Color R 0 G 0 B 128\n"
+                                 "Func12 Color R 106 G 90 B 205\n";
+    const QString defaultConf = folder->filePath(QStringLiteral("default colours.conf"));
+    saveOrOpen("&Save to a configuration file ...", defaultConf);
+    QCOMPARE(fileContents(defaultConf), defaults);
+
     const QString conf = folder->filePath(QStringLiteral("colours.conf"));
     scene->setColor(5, {1, 2, 3});
     saveOrOpen("&Save to a configuration file ...", conf);
-    QCOMPARE(fileContents(conf).substr(0, 25), std::string("Sine Color R 0 G 0 B 0\nFu"));
+    std::string changed = defaults;
+    const std::string func5 = "Func5 Color R 255 G 0 B 0\n";
+    changed.replace(changed.find(func5), func5.size(), "Func5 Color R 1 G 2 B 3\n");
+    QCOMPARE(fileContents(conf), changed);
     const SineColors saved = scene->colors();
     scene->setColor(5, {9, 9, 9});
     scene->setColor(0, {9, 9, 9});
