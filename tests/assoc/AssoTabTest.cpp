@@ -62,6 +62,7 @@ private slots:
     void colourMapPresetClick();
     void focusWindowEditsTheWindow();
     void focusYEditChangesOnlyThatBound();
+    void focusYEditsRefuseInfinityAndNan();
     void filesThroughTheDialogs();
     void damagedColourFilesNeverCrash();
     void helpWindowsShowTheirTexts();
@@ -579,6 +580,29 @@ void AssoTabTest::focusYEditChangesOnlyThatBound()
     scene->runningMan();
     QVERIFY(scene->getYMin() != -0.25f);
     QCOMPARE(focus->yMinEdit()->text().toFloat(), scene->getYMin());
+}
+
+// Typing infinity or NaN would leave the plot without a range: the keystroke that would make
+// the text one is refused, a note says why, and Return with such a text changes nothing.
+void AssoTabTest::focusYEditsRefuseInfinityAndNan()
+{
+    auto* focus = qobject_cast<AssoFocusWindow*>(
+        popWindow("&Tools", "&Region focus ...", QStringLiteral("Region focus")));
+    QVERIFY(focus != nullptr);
+    auto* note = focus->findChild<QLabel*>(QStringLiteral("yRefusal"));
+    QVERIFY(note != nullptr && !note->isVisible());
+    const float yMin = scene->getYMin();
+    const float yMax = scene->getYMax();
+    retype(focus->yMinEdit(), QStringLiteral("-inf"));
+    QCOMPARE(focus->yMinEdit()->text(), QStringLiteral("-in"));
+    QVERIFY(note->isVisible());
+    QCOMPARE(note->text(), QStringLiteral("Only finite numbers"));
+    retype(focus->yMaxEdit(), QStringLiteral("2e40"));
+    QCOMPARE(focus->yMaxEdit()->text(), QStringLiteral("2e4"));
+    focus->yMaxEdit()->setText(QStringLiteral("nan"));
+    QTest::keyClick(focus->yMaxEdit(), Qt::Key_Return);
+    QCOMPARE(scene->getYMin(), yMin);
+    QCOMPARE(scene->getYMax(), yMax);
 }
 
 void AssoTabTest::saveOrOpen(const char* entry, const QString& path)
