@@ -2,6 +2,7 @@
 
 #include "common/core/CFormat.h"
 #include "common/gui/CheckBoxStyle.h"
+#include "common/gui/FiniteNumberValidator.h"
 #include "common/gui/GroupBoxStyle.h"
 
 #include <QCheckBox>
@@ -13,6 +14,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QVBoxLayout>
+#include <cmath>
 
 namespace quillon
 {
@@ -29,9 +31,19 @@ void showOnSlider(QSlider* slider, QLabel* label, int minimum, int maximum, int 
     label->setText(QString::fromStdString(cformat("%d", value)));
 }
 
+// A long number shows its start: its sign and leading digits, not its last decimals.
 void showOnEdit(QLineEdit* edit, float value)
 {
     edit->setText(QString::fromStdString(cformat("%f", double(value))));
+    edit->home(false);
+}
+
+// The field's text read as the scenes read it (text that is no number reads as 0); nothing
+// when it reads as infinity or NaN.
+std::optional<float> finiteNumber(const QLineEdit* edit)
+{
+    const float value = edit->text().toFloat();
+    return std::isfinite(value) ? std::optional<float>(value) : std::nullopt;
 }
 
 } // namespace
@@ -39,7 +51,7 @@ void showOnEdit(QLineEdit* edit, float value)
 PlotFocusWindow::PlotFocusWindow()
     : QWidget(nullptr), layout(new QVBoxLayout(this)),
       fixNodes(new QCheckBox(tr("Fix # of nodes to display"))), yMin(new QLineEdit),
-      yMax(new QLineEdit)
+      yMax(new QLineEdit), refusal(new QLabel)
 {
     setWindowTitle(tr("Region focus"));
     setFont(QFont(QStringLiteral("Arial")));
@@ -72,6 +84,16 @@ QWidget* PlotFocusWindow::makeYGroup()
     grid->addWidget(yMin, 0, 1);
     grid->addWidget(new QLabel(tr("Y Max:")), 1, 0);
     grid->addWidget(yMax, 1, 1);
+    refusal->setObjectName(QStringLiteral("yRefusal"));
+    refusal->setStyleSheet(QStringLiteral("color: red"));
+    refusal->hide();
+    grid->addWidget(refusal, 2, 0, 1, 2);
+    for (QLineEdit* edit : {yMin, yMax}) {
+        edit->setValidator(new FiniteNumberValidator(edit));
+        connect(edit, &QLineEdit::inputRejected, refusal,
+                [this] { showRefusal(tr("Only finite numbers")); });
+        connect(edit, &QLineEdit::textEdited, refusal, [this] { showRefusal(QString()); });
+    }
     return group;
 }
 
@@ -118,6 +140,22 @@ QString PlotFocusWindow::yMinText() const
 QString PlotFocusWindow::yMaxText() const
 {
     return yMax->text();
+}
+
+void PlotFocusWindow::showRefusal(const QString& text)
+{
+    refusal->setText(text);
+    refusal->setVisible(!text.isEmpty());
+}
+
+std::optional<float> PlotFocusWindow::yMinNumber() const
+{
+    return finiteNumber(yMin);
+}
+
+std::optional<float> PlotFocusWindow::yMaxNumber() const
+{
+    return finiteNumber(yMax);
 }
 
 } // namespace quillon

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 #include <initializer_list>
+#include <optional>
 
 class QCheckBox;
 class QGridLayout;
@@ -28,6 +29,10 @@ public:
     bool fixesNodeCount() const;
     QString yMinText() const;
     QString yMaxText() const;
+    // The Y fields read as numbers; nothing for text that reads as infinity or NaN. Typing
+    // such text is refused, with a note under the fields.
+    std::optional<float> yMinNumber() const;
+    std::optional<float> yMaxNumber() const;
 
     QSlider* startSlider() const { return startPoint; }
     QSlider* endSlider() const { return endPoint; }
@@ -50,6 +55,8 @@ private:
     QWidget* makeXGroup();
     QWidget* makeYGroup();
     QSlider* addSlider(QGridLayout* grid, int row, const QString& caption, QLabel*& value);
+    // The note under the Y fields; an empty text hides it.
+    void showRefusal(const QString& text);
 
     QVBoxLayout* layout;
     QSlider* startPoint = nullptr;
@@ -61,6 +68,7 @@ private:
     QCheckBox* fixNodes;
     QLineEdit* yMin;
     QLineEdit* yMax;
+    QLabel* refusal;
 };
 
 } // namespace quillon

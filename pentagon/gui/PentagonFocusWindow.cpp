@@ -55,5 +55,7 @@ void PentagonFocusWindow::showRange(const PentagonRange& range)
     const float values[] = {range.xMin, range.xMax, range.yMin, range.yMax};
     for (int i = 0; i < 4; ++i) {
         fields[i]->setText(QString::fromStdString(quillon::cformat("%f", double(values[i]))));
+        // A long number shows its sign and leading digits, not its last decimals.
+        fields[i]->home(false);
     }
 }

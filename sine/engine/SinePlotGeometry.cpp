@@ -37,6 +37,14 @@ void forEachVisiblePoint(const SinePlotContent& content, const quillon::PlotXWin
     }
 }
 
+// One coordinate of a block beside the cursor: after the cursor when it fits, else before it,
+// then inside 0 .. room.
+float besideCursor(float cursor, float extent, int room)
+{
+    const float start = cursor + extent <= float(room) ? cursor : cursor - extent;
+    return std::clamp(start, 0.0f, std::max(float(room) - extent, 0.0f));
+}
+
 } // namespace
 
 std::optional<float> SinePlotContent::plotted(int k, int i) const
@@ -129,7 +137,9 @@ SineLegendHit sineLegendAt(float x, float y, int width, int height)
 {
     const int row = quillon::plotLegendRowAt(y, height);
     const int columnWidth = width / 3;
-    if (row < 0 || columnWidth <= 0 || x < 0.0f || x >= float(3 * columnWidth)) {
+    // Below the fifth row, when the quarter of the height is not a multiple of five rows,
+    // there is no entry.
+    if (row < 0 || row >= 5 || columnWidth <= 0 || x < 0.0f || x >= float(3 * columnWidth)) {
         return {};
     }
     const int column = int(x) / columnWidth;
@@ -139,4 +149,10 @@ SineLegendHit sineLegendAt(float x, float y, int width, int height)
         return {firstRow[column], -1};
     }
     return {SineLegendHit::Approach, 3 * (row - 1) + column};
+}
+
+SineTextBlockCorner sineTextBlockBesideCursor(float x, float y, float blockWidth, float blockHeight,
+                                              int viewWidth, int viewHeight)
+{
+    return {besideCursor(x, blockWidth, viewWidth), besideCursor(y, blockHeight, viewHeight)};
 }

@@ -50,3 +50,14 @@ struct SineLegendHit {
     int approach = -1; // 0 = Func1, for Approach
 };
 SineLegendHit sineLegendAt(float x, float y, int width, int height);
+
+// Where the top-left corner of a block of text lines goes when it is shown beside the cursor
+// at (x, y) in a view of viewWidth x viewHeight: right of and below the cursor where the block
+// fits there, otherwise left of or above it, and in any case moved inside the view, so that no
+// line is cut at an edge (a block larger than the view starts at the view's top-left corner).
+struct SineTextBlockCorner {
+    float left;
+    float top;
+};
+SineTextBlockCorner sineTextBlockBesideCursor(float x, float y, float blockWidth, float blockHeight,
+                                              int viewWidth, int viewHeight);

@@ -16,6 +16,7 @@
 
 #include <GL/gl.h>
 #include <QCheckBox>
+#include <QGraphicsSceneHelpEvent>
 #include <QGraphicsSceneMouseEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,6 +24,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QTimer>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 
@@ -56,6 +58,15 @@ const char* screenWord(int32_t code)
         return "Underflow";
     default:
         return "NAN";
+    }
+}
+
+// A focus field that reads as infinity or NaN would leave the plot without a range: the bound
+// keeps its value.
+void takeFinite(float& bound, std::optional<float> typed)
+{
+    if (typed) {
+        bound = *typed;
     }
 }
 
@@ -178,7 +189,7 @@ void SineOpenGLScene::calculate()
 void SineOpenGLScene::updateYmin()
 {
     if (focusWindow != nullptr) {
-        yLow = focusWindow->yMinText().toFloat();
+        takeFinite(yLow, focusWindow->yMinNumber());
     }
     repaint();
 }
@@ -186,7 +197,7 @@ void SineOpenGLScene::updateYmin()
 void SineOpenGLScene::updateYmax()
 {
     if (focusWindow != nullptr) {
-        yHigh = focusWindow->yMaxText().toFloat();
+        takeFinite(yHigh, focusWindow->yMaxNumber());
     }
     repaint();
 }
@@ -194,8 +205,8 @@ void SineOpenGLScene::updateYmax()
 void SineOpenGLScene::Yapply()
 {
     if (focusWindow != nullptr) {
-        yLow = focusWindow->yMinText().toFloat();
-        yHigh = focusWindow->yMaxText().toFloat();
+        takeFinite(yLow, focusWindow->yMinNumber());
+        takeFinite(yHigh, focusWindow->yMaxNumber());
     }
     repaint();
 }
@@ -886,61 +897,129 @@ void SineOpenGLScene::drawXIndices(QPainter* painter) const
     }
 }
 
-// Under the cursor's index, one red line per selected series that stopped there.
+// Under the cursor's index, one red line per selected series that stopped there, the block
+// beside the cursor and whole inside the plot: the index where the animation pauses itself is
+// at the plot's right edge.
 void SineOpenGLScene::drawErrorList(QPainter* painter) const
 {
     const int index = indexUnderCursor();
     if (index < 0) {
         return;
     }
-    const int lineHeight = QFontMetrics(quillon::plotOverlayFont()).height();
-    painter->setPen(QColor(255, 0, 0));
-    float y = mouse.y();
+    QStringList lines;
     for (int k = 0; k < kSineApproachCount; ++k) {
         const std::vector<int32_t>& codes = computed.series[k].codes;
         if (!needed[k + 1] || size_t(index) >= codes.size() || codes[index] == SineOk) {
             continue;
         }
         const std::string name = std::string(sineApproaches()[k].longName) + " ";
-        const QString text =
-            qformat(cformat("%s gets an error: %s\n", name.c_str(), screenWord(codes[index])));
-        y += float(lineHeight);
-        painter->drawText(QPointF(mouse.x(), y), text.trimmed());
+        lines << qformat(cformat("%s gets an error: %s\n", name.c_str(), screenWord(codes[index])))
+                     .trimmed();
+    }
+    if (lines.isEmpty()) {
+        return;
+    }
+    const QFontMetrics metrics(quillon::plotOverlayFont());
+    int widest = 0;
+    for (const QString& line : lines) {
+        widest = std::max(widest, metrics.horizontalAdvance(line));
+    }
+    const SineTextBlockCorner corner =
+        sineTextBlockBesideCursor(mouse.x(), mouse.y(), float(widest),
+                                  float(metrics.height() * lines.size()), viewWidth, viewHeight);
+    painter->setPen(QColor(255, 0, 0));
+    float baseline = corner.top + float(metrics.ascent());
+    for (const QString& line : lines) {
+        painter->drawText(QPointF(corner.left, baseline), line);
+        baseline += float(metrics.height());
     }
 }
 
 // Three columns and five rows in the bottom quarter: the library, "Select all" and "Select
-// none", then the twelve approaches three to a row, each with its check mark and colour.
-void SineOpenGLScene::drawLegend(QPainter* painter) const
+// none", then the twelve approaches three to a row. An entry keeps a gap before the next
+// column's check mark; a name too long for its column is shortened (its tool tip gives it
+// whole).
+SineOpenGLScene::LegendEntry SineOpenGLScene::legendEntry(int row, int column) const
 {
+    constexpr int kGap = 4;
     const int top = int(std::floor(0.75 * viewHeight));
     const int rowHeight = int(std::floor(0.25 * viewHeight)) / 5;
     const int columnWidth = viewWidth / 3;
     const int side = std::max(std::min(rowHeight - 4, 16), 1);
+    const int left = column * columnWidth + kGap;
+    const int rowTop = top + row * rowHeight;
+    LegendEntry entry{-1, {}, {}, {}, {}, {}};
+    if (row == 0) {
+        const char* firstRow[] = {"C++ Math lib", "Select all", "Select none"};
+        entry.name = QString::fromLatin1(firstRow[column]);
+        entry.slot = column == 0 ? kLibrary : -1;
+    } else {
+        const int k = 3 * (row - 1) + column;
+        entry.name = QString::fromLatin1(sineApproaches()[k].longName);
+        entry.slot = k + 1;
+    }
+    int textLeft = left;
+    if (entry.slot >= 0) {
+        const int squareTop = rowTop + (rowHeight - side) / 2;
+        entry.checkMark = QRect(left, squareTop, side, side);
+        entry.colour = QRect(left + side + kGap, squareTop, side, side);
+        textLeft += 2 * side + 2 * kGap;
+    }
+    const int textRight = (column + 1) * columnWidth;
+    entry.textBox = QRect(textLeft, rowTop, std::max(textRight - textLeft, 0), rowHeight);
+    entry.shownName = QFontMetrics(quillon::plotOverlayFont())
+                          .elidedText(entry.name, Qt::ElideRight, entry.textBox.width());
+    return entry;
+}
+
+void SineOpenGLScene::drawLegend(QPainter* painter) const
+{
+    const int top = int(std::floor(0.75 * viewHeight));
     painter->setPen(Qt::black);
     painter->drawLine(0, top, viewWidth, top);
-    const auto entry = [&](int row, int column, const QString& text, int slot) {
-        const int left = column * columnWidth + 4;
-        const int squareTop = top + row * rowHeight + (rowHeight - side) / 2;
-        int textLeft = left;
-        if (slot >= 0) {
-            painter->drawImage(QRect(left, squareTop, side, side),
-                               needed[slot] ? checkedImage : uncheckedImage);
-            painter->fillRect(QRect(left + side + 4, squareTop, side, side),
-                              quillon::toQColor(colours[slot]));
-            textLeft += 2 * side + 8;
+    for (int row = 0; row < 5; ++row) {
+        for (int column = 0; column < 3; ++column) {
+            const LegendEntry entry = legendEntry(row, column);
+            if (entry.slot >= 0) {
+                painter->drawImage(entry.checkMark,
+                                   needed[entry.slot] ? checkedImage : uncheckedImage);
+                painter->fillRect(entry.colour, quillon::toQColor(colours[entry.slot]));
+            }
+            painter->setPen(entry.slot == hovered && entry.slot > 0 ? Qt::red : Qt::black);
+            painter->drawText(entry.textBox, Qt::AlignLeft | Qt::AlignVCenter, entry.shownName);
         }
-        painter->setPen(slot == hovered && slot > 0 ? Qt::red : Qt::black);
-        painter->drawText(
-            QRect(textLeft, top + row * rowHeight, columnWidth - textLeft + left, rowHeight),
-            Qt::AlignLeft | Qt::AlignVCenter, text);
-    };
-    entry(0, 0, QStringLiteral("C++ Math lib"), kLibrary);
-    entry(0, 1, QStringLiteral("Select all"), -1);
-    entry(0, 2, QStringLiteral("Select none"), -1);
-    for (int k = 0; k < kSineApproachCount; ++k) {
-        entry(1 + k / 3, k % 3, QString::fromLatin1(sineApproaches()[k].longName), k + 1);
     }
+}
+
+std::optional<SineOpenGLScene::LegendEntry> SineOpenGLScene::legendEntryAt(QPointF position) const
+{
+    const SineLegendHit hit =
+        sineLegendAt(float(position.x()), float(position.y()), viewWidth, viewHeight);
+    switch (hit.kind) {
+    case SineLegendHit::None:
+        return std::nullopt;
+    case SineLegendHit::Library:
+        return legendEntry(0, 0);
+    case SineLegendHit::SelectAll:
+        return legendEntry(0, 1);
+    case SineLegendHit::SelectNone:
+        return legendEntry(0, 2);
+    case SineLegendHit::Approach:
+        break;
+    }
+    return legendEntry(1 + hit.approach / 3, hit.approach % 3);
+}
+
+void SineOpenGLScene::helpEvent(QGraphicsSceneHelpEvent* event)
+{
+    const std::optional<LegendEntry> entry =
+        showLabels ? legendEntryAt(event->scenePos()) : std::nullopt;
+    if (!entry || entry->shownName == entry->name) {
+        QGraphicsScene::helpEvent(event);
+        return;
+    }
+    QToolTip::showText(event->screenPos(), entry->name, event->widget());
+    event->accept();
 }
 
 void SineOpenGLScene::drawLargestError(QPainter* painter) const

@@ -11,6 +11,7 @@
 #include "sine/gui/SinePanel.h"
 
 #include <QImage>
+#include <QRect>
 #include <QString>
 #include <array>
 #include <optional>
@@ -133,8 +134,22 @@ protected:
     void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override;
     void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
+    // Over a legend entry whose name is shortened to fit its column, the full name.
+    void helpEvent(QGraphicsSceneHelpEvent* event) override;
 
 private:
+    // Where one legend entry is drawn: for a curve (slot >= 0) its check mark and colour
+    // squares, then its text, shortened with "..." when the column is too narrow for it.
+    struct LegendEntry {
+        int slot;
+        QRect checkMark;
+        QRect colour;
+        QRect textBox;
+        QString name;
+        QString shownName;
+    };
+    LegendEntry legendEntry(int row, int column) const;
+
     void recompute();
     void restartAnimation();
     void refreshTimeSlider();
@@ -156,6 +171,7 @@ private:
     int indexUnderCursor() const;
     std::vector<int> plottedIndices(const SinePlotContent& content, int k) const;
     bool clickLegend(float x, float y);
+    std::optional<LegendEntry> legendEntryAt(QPointF position) const;
     void drawNodeMark(QPainter* painter) const;
     void drawGrid() const;
     void drawErrorMarkers() const;

@@ -62,6 +62,7 @@ private slots:
     void colourMapPresetClick();
     void focusWindowEditsTheWindow();
     void focusYEditChangesOnlyThatBound();
+    void focusYEditsRefuseInfinityAndNan();
     void filesThroughTheDialogs();
     void damagedColourFilesNeverCrash();
     void helpWindowsShowTheirTexts();
@@ -277,24 +278,41 @@ void AssoTabTest::ticksStopAtTheLastFullWindow()
     QCOMPARE(scene->getYMin(), fittedMin);
 }
 
+// Slid in, the window 0..20 spans the plot: node start + k sits at 0.15 * k - 1.5, that is at
+// k / 20 of the width. A drag from 5.5 / 20 to 15.5 / 20 of the width: the first node right of
+// the press is start + 6, so the window starts one before it, at start + 5; the first node
+// right of the release, start + 16, ends it. The Y range becomes the two dragged heights.
 void AssoTabTest::dragZoomsAndRightClickUndoes()
 {
     runUntil([this] { return scene->xWindow().slideInDone(); });
     const quillon::PlotXWindow before = scene->xWindow();
+    QCOMPARE(before.end - before.start, 20);
+    const float yMinBefore = scene->getYMin();
     const float yMaxBefore = scene->getYMax();
+    const int width = view->width();
+    const int height = view->height();
+    const QPoint press(qRound(width * 5.5 / 20), int(height * 0.2));
+    const QPoint release(qRound(width * 15.5 / 20), int(height * 0.5));
     QWidget* viewport = view->viewport();
-    QTest::mouseMove(viewport, viewPoint(0.25, 0.2));
-    QTest::mousePress(viewport, Qt::LeftButton, {}, viewPoint(0.25, 0.2));
-    QTest::mouseMove(viewport, viewPoint(0.75, 0.5));
-    QTest::mouseRelease(viewport, Qt::LeftButton, {}, viewPoint(0.75, 0.5));
+    QTest::mouseMove(viewport, press);
+    QTest::mousePress(viewport, Qt::LeftButton, {}, press);
+    QTest::mouseMove(viewport, release);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, release);
     QCOMPARE(scene->zoomDepth(), 2);
-    QVERIFY(scene->xWindow().start > before.start);
-    QVERIFY(scene->xWindow().end < before.end);
-    QVERIFY(scene->getYMax() < yMaxBefore);
+    QCOMPARE(scene->xWindow().start, before.start + 5);
+    QCOMPARE(scene->xWindow().end, before.start + 16);
+    QCOMPARE(scene->xWindow().step, before.step);
+    const auto draggedY = [&](int pixelY) {
+        return double(yMinBefore) +
+               (double(yMaxBefore) - double(yMinBefore)) * (height - pixelY) / height;
+    };
+    QCOMPARE(scene->getYMin(), float(draggedY(release.y())));
+    QCOMPARE(scene->getYMax(), float(draggedY(press.y())));
     QTest::mouseClick(viewport, Qt::RightButton, {}, viewPoint(0.5, 0.5));
     QCOMPARE(scene->zoomDepth(), 1);
     QCOMPARE(scene->xWindow().start, before.start);
     QCOMPARE(scene->xWindow().end, before.end);
+    QCOMPARE(scene->getYMin(), yMinBefore);
     QCOMPARE(scene->getYMax(), yMaxBefore);
     // With one entry left, a right click removes it and restores nothing; then nothing.
     QTest::mouseClick(viewport, Qt::RightButton, {}, viewPoint(0.5, 0.5));
@@ -562,6 +580,29 @@ void AssoTabTest::focusYEditChangesOnlyThatBound()
     scene->runningMan();
     QVERIFY(scene->getYMin() != -0.25f);
     QCOMPARE(focus->yMinEdit()->text().toFloat(), scene->getYMin());
+}
+
+// Typing infinity or NaN would leave the plot without a range: the keystroke that would make
+// the text one is refused, a note says why, and Return with such a text changes nothing.
+void AssoTabTest::focusYEditsRefuseInfinityAndNan()
+{
+    auto* focus = qobject_cast<AssoFocusWindow*>(
+        popWindow("&Tools", "&Region focus ...", QStringLiteral("Region focus")));
+    QVERIFY(focus != nullptr);
+    auto* note = focus->findChild<QLabel*>(QStringLiteral("yRefusal"));
+    QVERIFY(note != nullptr && !note->isVisible());
+    const float yMin = scene->getYMin();
+    const float yMax = scene->getYMax();
+    retype(focus->yMinEdit(), QStringLiteral("-inf"));
+    QCOMPARE(focus->yMinEdit()->text(), QStringLiteral("-in"));
+    QVERIFY(note->isVisible());
+    QCOMPARE(note->text(), QStringLiteral("Only finite numbers"));
+    retype(focus->yMaxEdit(), QStringLiteral("2e40"));
+    QCOMPARE(focus->yMaxEdit()->text(), QStringLiteral("2e4"));
+    focus->yMaxEdit()->setText(QStringLiteral("nan"));
+    QTest::keyClick(focus->yMaxEdit(), Qt::Key_Return);
+    QCOMPARE(scene->getYMin(), yMin);
+    QCOMPARE(scene->getYMax(), yMax);
 }
 
 void AssoTabTest::saveOrOpen(const char* entry, const QString& path)

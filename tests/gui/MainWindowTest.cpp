@@ -1,16 +1,39 @@
 #include "app/MainWindow.h"
 #include "app/GraphicsView.h"
+#include "assoc/gui/AssoColorMap.h"
+#include "assoc/gui/AssoFocusWindow.h"
+#include "assoc/gui/AssoHelpWindow.h"
+#include "assoc/gui/AssoSelectionWindow.h"
+#include "assoc/gui/AssoUserMenu.h"
 #include "common/gui/OpenGLPlotScene.h"
+#include "inspect/gui/InspectorWindow.h"
+#include "pentagon/gui/PentagonColorMap.h"
+#include "pentagon/gui/PentagonFocusWindow.h"
+#include "pentagon/gui/PentagonHelpWindow.h"
+#include "pentagon/gui/PentagonMiniMap.h"
+#include "pentagon/gui/PentagonUserMenu.h"
+#include "roots/gui/RootsHelpWindow.h"
+#include "roots/gui/RootsUserMenu.h"
+#include "sine/gui/SineColorMap.h"
+#include "sine/gui/SineFocusWindow.h"
+#include "sine/gui/SineHelpWindow.h"
+#include "sine/gui/SineSelectionWindow.h"
+#include "sine/gui/SineStatusWindow.h"
+#include "sine/gui/SineUserMenu.h"
 #include "tests/gui/GuiTestSupport.h"
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTabWidget>
+#include <QTemporaryDir>
 #include <QtTest>
+#include <functional>
 
 // One expected menu entry; an empty text stands for a separator.
 struct Expected {
@@ -171,6 +194,129 @@ protected:
     }
 };
 
+// What triggering one menu entry must do: show one window of a class, ask for a file name with
+// a dialog and hand it to one file action, load an example into the Roots fields, or close the
+// main window.
+struct EntryEffect {
+    const char* menu;
+    const char* text;
+    std::function<bool(const QWidget*)> showsWindow;
+    FileAction file = FileAction::Count;
+    QStringList exampleFields;
+    bool exits = false;
+};
+
+template <typename Window> std::function<bool(const QWidget*)> windowOf()
+{
+    return [](const QWidget* shown) { return dynamic_cast<const Window*>(shown) != nullptr; };
+}
+
+EntryEffect shows(const char* menu, const char* text, std::function<bool(const QWidget*)> is)
+{
+    return {menu, text, std::move(is), FileAction::Count, {}, false};
+}
+
+EntryEffect asksForFile(const char* text, FileAction action)
+{
+    return {"&File", text, {}, action, {}, false};
+}
+
+EntryEffect loadsExample(const char* text, QStringList fields)
+{
+    return {"&Examples", text, {}, FileAction::Count, std::move(fields), false};
+}
+
+const EntryEffect kExit{"&File", "&Exit", {}, FileAction::Count, {}, true};
+
+QList<EntryEffect> entryEffects(int tab)
+{
+    switch (tab) {
+    case RootsTab:
+        return {asksForFile("&Save data to a txt file ...", FileAction::RootsSaveTxt),
+                loadsExample("&Example 1: regular example", {"1.000000", "4.000000", "1.000000"}),
+                loadsExample("&Example 2: b^2 >> 4ac", {"1.000000", "10000.000000", "1.000000"}),
+                loadsExample("&Example 3: b^2 ~ 4ac", {"0.010000", "100.000000", "250000.000000"}),
+                shows("&Examples", "&Inspector ...", windowOf<InspectorWindow>()),
+                shows("&Help", "&About ...", windowOf<RootsHelpWindow>()),
+                shows("&Help", "&Help ...", windowOf<RootsUserMenu>()),
+                kExit};
+    case PentagonTab:
+        return {asksForFile("&Open a configuration file ...", FileAction::PentagonOpen),
+                asksForFile("&Save to a configuration file ...", FileAction::PentagonSave),
+                asksForFile("&Save data to a txt file ...", FileAction::PentagonSaveTxt),
+                shows("&Tools", "&Focus regions ...", windowOf<PentagonFocusWindow>()),
+                shows("&Tools", "&Selections ...", windowOf<PentagonMiniMap>()),
+                shows("&Tools", "&Color map ...", windowOf<PentagonColorMap>()),
+                shows("&Tools", "&Inspector ...", windowOf<InspectorWindow>()),
+                shows("&Help", "&About ...", windowOf<PentagonHelpWindow>()),
+                shows("&Help", "&Help ...", windowOf<PentagonUserMenu>()),
+                kExit};
+    case AssoTab:
+        return {asksForFile("&Open a configuration file ...", FileAction::AssoOpen),
+                asksForFile("&Save to a configuration file ...", FileAction::AssoSave),
+                asksForFile("&Save data to a txt file ...", FileAction::AssoSaveTxt),
+                asksForFile("&Save data to a csv file ...", FileAction::AssoSaveCsv),
+                shows("&Tools", "&Region focus ...", windowOf<AssoFocusWindow>()),
+                shows("&Tools", "&Selections ...", windowOf<AssoSelectionWindow>()),
+                shows("&Tools", "&Color map ...", windowOf<AssoColorMap>()),
+                shows("&Tools", "&Inspector ...", windowOf<InspectorWindow>()),
+                shows("&Help", "&About ...", windowOf<AssoHelpWindow>()),
+                shows("&Help", "&Help ...", windowOf<AssoUserMenu>()),
+                kExit};
+    default:
+        return {asksForFile("&Open a configuration file ...", FileAction::SineOpen),
+                asksForFile("&Save to a configuration file ...", FileAction::SineSave),
+                asksForFile("&Save data to a txt file ...", FileAction::SineSaveTxt),
+                asksForFile("&Save data to a CSV file ...", FileAction::SineSaveCsv),
+                shows("&Tools", "&Region focus ...", windowOf<SineFocusWindow>()),
+                shows("&Tools", "&Selections ...", windowOf<SineSelectionWindow>()),
+                shows("&Tools", "&Status ...", windowOf<SineStatusWindow>()),
+                shows("&Tools", "&Color map ...", windowOf<SineColorMap>()),
+                shows("&Tools", "&Inspector ...", windowOf<InspectorWindow>()),
+                shows("&Help", "&About ...", windowOf<SineHelpWindow>()),
+                shows("&Help", "&Help ...", windowOf<SineUserMenu>()),
+                kExit};
+    }
+}
+
+// How each file action's dialog asks: an open or a save dialog, its title and its filters.
+struct ExpectedDialog {
+    QFileDialog::AcceptMode mode;
+    const char* title;
+    QStringList filters;
+};
+
+ExpectedDialog expectedDialog(FileAction action)
+{
+    const QStringList conf = {"Document files (*.conf)", "All files (*.*)"};
+    switch (action) {
+    case FileAction::PentagonOpen:
+    case FileAction::AssoOpen:
+    case FileAction::SineOpen:
+        return {QFileDialog::AcceptOpen, "Open Document", conf};
+    case FileAction::PentagonSave:
+    case FileAction::AssoSave:
+    case FileAction::SineSave:
+        return {QFileDialog::AcceptSave, "Save Document", {"Documents (*.conf)"}};
+    case FileAction::AssoSaveCsv:
+    case FileAction::SineSaveCsv:
+        return {QFileDialog::AcceptSave, "Save Document", {"Documents (*.csv)"}};
+    default:
+        return {QFileDialog::AcceptSave, "Save Document", {"Documents (*.txt)"}};
+    }
+}
+
+QList<QWidget*> visibleTopLevels()
+{
+    QList<QWidget*> shown;
+    for (QWidget* topLevel : QApplication::topLevelWidgets()) {
+        if (topLevel->isVisible()) {
+            shown << topLevel;
+        }
+    }
+    return shown;
+}
+
 } // namespace
 
 class MainWindowTest : public QObject
@@ -262,18 +408,92 @@ void MainWindowTest::shortcutsAreTheStandardOnes()
     }
 }
 
+// Every entry of every tab is enabled and does what its slot does: a tool or help entry shows
+// that tab's window of the entry's kind (and no other), a file entry opens its dialog and hands
+// the chosen name to that file action, an example loads its coefficients and "&Exit" closes
+// the window.
 void MainWindowTest::everyEntryHasSomethingBehindIt()
 {
+    QTemporaryDir folder;
     MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QList<std::pair<FileAction, QString>> handed;
+    for (int action = 0; action < int(FileAction::Count); ++action) {
+        window.setFileRoutine(FileAction(action), [&handed, action](const QString& name) {
+            handed.append({FileAction(action), name});
+            return QString();
+        });
+    }
     for (int tab = 0; tab < 4; ++tab) {
         tabsOf(window)->setCurrentIndex(tab);
+        const QList<EntryEffect> effects = entryEffects(tab);
         QList<QByteArray> storage;
+        int checked = 0;
         for (const Expected& entry : menuBarEntries(window, storage)) {
             if (*entry.text == '\0') {
                 continue;
             }
-            QVERIFY2(menuBarAction(window, entry.menu, entry.text)->isEnabled(), entry.text);
+            const QString where = QStringLiteral("%1 %2").arg(tab).arg(entry.text);
+            QAction* action = menuBarAction(window, entry.menu, entry.text);
+            QVERIFY2(action->isEnabled(), qPrintable(where));
+            const auto effect =
+                std::find_if(effects.begin(), effects.end(), [&entry](const EntryEffect& e) {
+                    return QByteArray(e.menu) == entry.menu && QByteArray(e.text) == entry.text;
+                });
+            QVERIFY2(effect != effects.end(), qPrintable(where));
+            ++checked;
+            if (effect->showsWindow) {
+                const QList<QWidget*> before = visibleTopLevels();
+                action->trigger();
+                QList<QWidget*> shown = visibleTopLevels();
+                for (QWidget* old : before) {
+                    shown.removeAll(old);
+                }
+                QCOMPARE(shown.size(), 1);
+                QVERIFY2(effect->showsWindow(shown.first()), qPrintable(where));
+                shown.first()->close();
+            } else if (effect->file != FileAction::Count) {
+                const ExpectedDialog dialog = expectedDialog(effect->file);
+                const QString path = folder.filePath(QStringLiteral("entry %1").arg(checked));
+                if (dialog.mode == QFileDialog::AcceptOpen) {
+                    QFile existing(path);
+                    QVERIFY(existing.open(QIODevice::WriteOnly));
+                }
+                bool asked = false;
+                answerNextModalDialog([&](QWidget* shownDialog) {
+                    auto* files = qobject_cast<QFileDialog*>(shownDialog);
+                    QVERIFY2(files != nullptr, qPrintable(where));
+                    QCOMPARE(files->acceptMode(), dialog.mode);
+                    QCOMPARE(files->windowTitle(), QString::fromLatin1(dialog.title));
+                    QCOMPARE(files->nameFilters(), dialog.filters);
+                    asked = true;
+                    auto* name = files->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+                    name->setText(path);
+                    QTest::keyClick(name, Qt::Key_Return);
+                });
+                handed.clear();
+                action->trigger();
+                QVERIFY2(asked, qPrintable(where));
+                QCOMPARE(handed.size(), 1);
+                QCOMPARE(int(handed.first().first), int(effect->file));
+                QCOMPARE(handed.first().second, path);
+            } else if (!effect->exampleFields.isEmpty()) {
+                action->trigger();
+                const char* fields[] = {"roots_a_value", "roots_b_value", "roots_c_value"};
+                for (int i = 0; i < 3; ++i) {
+                    QCOMPARE(window.findChild<QLineEdit*>(QString::fromLatin1(fields[i]))->text(),
+                             effect->exampleFields[i]);
+                }
+            } else {
+                QVERIFY(effect->exits);
+                action->trigger();
+                QVERIFY2(!window.isVisible(), qPrintable(where));
+                window.show();
+                QVERIFY(QTest::qWaitForWindowExposed(&window));
+            }
         }
+        QCOMPARE(checked, effects.size());
     }
 }
 

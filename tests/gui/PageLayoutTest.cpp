@@ -1,13 +1,18 @@
 #include "app/MainWindow.h"
+#include "common/gui/PlotOverlay.h"
+#include "sine/gui/SineOpenGLScene.h"
 #include "tests/gui/GuiTestSupport.h"
+#include "tests/gui/PaintedTextRecorder.h"
 
 #include <QAbstractButton>
+#include <QGraphicsView>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QStyle>
 #include <QStyleOptionGroupBox>
 #include <QTabWidget>
+#include <QToolTip>
 #include <QtTest>
 
 namespace
@@ -148,6 +153,8 @@ private slots:
     void everyTextFitsOnEveryPage();
     void plotPagesFillTheirPage_data();
     void plotPagesFillTheirPage();
+    void sineLegendFitsItsColumns_data();
+    void sineLegendFitsItsColumns();
     void toolWindowTitlesClearTheirContents();
 
 private:
@@ -268,6 +275,80 @@ void PageLayoutTest::plotPagesFillTheirPage()
         QVERIFY2(panel->geometry().right() < page.width(), names[1]);
         QVERIFY2(page.width() - panel->geometry().right() <= 10, names[1]);
         QVERIFY2(panel->x() - plot->geometry().right() <= 10, names[1]);
+    }
+}
+
+void PageLayoutTest::sineLegendFitsItsColumns_data()
+{
+    everyTextFitsOnEveryPage_data();
+}
+
+// The Sine legend's three columns: each entry's text ends within its column, before the next
+// column's check mark. A name too long for its column is shortened with "..." and its tool tip
+// gives it whole; at the size the window opens with, every name is shown whole.
+void PageLayoutTest::sineLegendFitsItsColumns()
+{
+    QFETCH(QSize, size);
+    resizeTo(size);
+    auto* placeholder = window->findChild<QWidget*>(QStringLiteral("sine_VisWindow"));
+    auto* view = placeholder->findChild<QGraphicsView*>();
+    tabs()->setCurrentWidget(placeholder->parentWidget());
+    // The view lays itself out once its page shows: the scene then covers it.
+    QTRY_COMPARE(view->sceneRect().size(), QSizeF(view->size()));
+    auto* scene = qobject_cast<SineOpenGLScene*>(view->scene());
+    QVERIFY(scene != nullptr);
+    const QStringList names = {"C++ Math lib",
+                               "Select all",
+                               "Select none",
+                               "Original X + Direct eva + Naive",
+                               "Original X + Direct eva + NegPos",
+                               "Original X + Direct eva + Kahan",
+                               "Original X + Term update + Naive",
+                               "Original X + Term update + NegPos",
+                               "Original X + Term update + Kahan",
+                               "Reduced X + Direct eva + Naive",
+                               "Reduced X + Direct eva + NegPos",
+                               "Reduced X + Direct eva + Kahan",
+                               "Reduced X + Term update + Naive",
+                               "Reduced X + Term update + NegPos",
+                               "Reduced X + Term update + Kahan"};
+    const QFontMetrics metrics(quillon::plotOverlayFont());
+    const int columnWidth = view->width() / 3;
+    const int legendTop = int(0.75 * view->height());
+    const int rowHeight = int(0.25 * view->height()) / 5;
+    QStringList shown;
+    int shortened = 0;
+    for (const PaintedText& painted : foregroundTexts(scene, view->size())) {
+        if (painted.position.y() <= legendTop) {
+            continue;
+        }
+        const int row = shown.size() / 3;
+        const int column = shown.size() % 3;
+        const QString& name = names.value(row * 3 + column);
+        shown << painted.text;
+        const QString where = QStringLiteral("\"%1\" for \"%2\"").arg(painted.text, name);
+        QVERIFY2(painted.position.x() >= column * columnWidth, qPrintable(where));
+        QVERIFY2(painted.position.x() + metrics.horizontalAdvance(painted.text) <=
+                     (column + 1) * columnWidth,
+                 qPrintable(where));
+        if (painted.text == name) {
+            continue;
+        }
+        ++shortened;
+        const QString kept = painted.text.chopped(1);
+        QVERIFY2(painted.text.endsWith(QChar(0x2026)) && name.startsWith(kept), qPrintable(where));
+        const QPoint entry(column * columnWidth + columnWidth / 2,
+                           legendTop + row * rowHeight + rowHeight / 2);
+        QHelpEvent help(QEvent::ToolTip, entry, view->viewport()->mapToGlobal(entry));
+        QApplication::sendEvent(view->viewport(), &help);
+        QTRY_COMPARE(QToolTip::text(), name);
+    }
+    QCOMPARE(shown.size(), names.size());
+    if (size == kStartingSize) {
+        QCOMPARE(shown, names);
+    }
+    if (size.isEmpty()) {
+        QVERIFY(shortened > 0);
     }
 }
 

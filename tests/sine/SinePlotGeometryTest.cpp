@@ -140,3 +140,33 @@ TEST(SinePlotGeometry, LegendHasThreeColumnsAndFiveRows)
     EXPECT_EQ(sineLegendAt(310, 540, 900, 600).approach, 7);
     EXPECT_EQ(sineLegendAt(900, 455, 900, 600).kind, SineLegendHit::None);
 }
+
+TEST(SinePlotGeometry, LegendHasNoEntryBelowItsFifthRow)
+{
+    // 900 x 610: legend from y = 457 (floor of 457.5), rows of 152 / 5 = 30, so the fifth row
+    // ends at y = 607 and the last three pixel rows hold no entry.
+    EXPECT_EQ(sineLegendAt(10, 606, 900, 610).approach, 9);
+    EXPECT_EQ(sineLegendAt(10, 607, 900, 610).kind, SineLegendHit::None);
+    EXPECT_EQ(sineLegendAt(610, 609, 900, 610).kind, SineLegendHit::None);
+}
+
+TEST(SinePlotGeometry, TextBlockStaysBesideTheCursorAndInsideTheView)
+{
+    // A block 100 wide and 30 high in a view of 400 x 300.
+    const auto at = [](float x, float y, float width = 100, float height = 30) {
+        const SineTextBlockCorner corner = sineTextBlockBesideCursor(x, y, width, height, 400, 300);
+        return std::make_pair(corner.left, corner.top);
+    };
+    // Where it fits, right of and below the cursor.
+    EXPECT_EQ(at(10, 20), std::make_pair(10.0f, 20.0f));
+    EXPECT_EQ(at(300, 270), std::make_pair(300.0f, 270.0f));
+    // At the right edge it goes left of the cursor; at the bottom, above it.
+    EXPECT_EQ(at(399, 20), std::make_pair(299.0f, 20.0f));
+    EXPECT_EQ(at(10, 290), std::make_pair(10.0f, 260.0f));
+    EXPECT_EQ(at(399, 299), std::make_pair(299.0f, 269.0f));
+    // Fitting on neither side, it goes to the side with the cursor's far edge moved inside.
+    EXPECT_EQ(at(60, 20, 350), std::make_pair(0.0f, 20.0f));
+    EXPECT_EQ(at(60, 100, 100, 250), std::make_pair(60.0f, 0.0f));
+    // Larger than the view, it starts at the top-left corner.
+    EXPECT_EQ(at(200, 150, 500, 400), std::make_pair(0.0f, 0.0f));
+}

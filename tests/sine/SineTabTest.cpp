@@ -66,6 +66,8 @@ private slots:
     void selectNoneLeavesTheGridAndTheLibraryLine();
     void legendClickTogglesAnApproach();
     void errorListNamesTheStoppedSeries();
+    void errorListStaysWholeInsideThePlot();
+    void errorModeWithNothingPlottedKeepsTheSceneRange();
     void yLabelsAndLargestErrorLine();
     void speedLevelsSetTheTimerAndButtons();
     void pauseTogglesItsText();
@@ -334,6 +336,58 @@ void SineTabTest::errorListNamesTheStoppedSeries()
                                  "Reduced X + Direct eva + Kahan  gets an error: Overflow"}));
 }
 
+// Where the animation pauses itself, the failing index is near the plot's right edge: every
+// line of the list, with the cursor there at any height, lies whole inside the plot.
+void SineTabTest::errorListStaysWholeInsideThePlot()
+{
+    tickUntil([this] { return scene->isAutoPaused(); });
+    scene->allchoose();
+    // 18 nodes revealed: index 17 is at x = 17 * 0.15 + (1.5 - 18 * 0.15) = 1.35, that is
+    // 0.95 of the width.
+    const int nodeX = int(0.95 * view->width());
+    const QFontMetrics metrics(quillon::plotOverlayFont());
+    for (const int y : {2, view->height() / 2, view->height() - 2}) {
+        QTest::mouseMove(view->viewport(), QPoint(nodeX, y));
+        int lines = 0;
+        for (const PaintedText& painted : paintedTexts()) {
+            if (painted.color != QColor(255, 0, 0)) {
+                continue;
+            }
+            ++lines;
+            const QRectF box(painted.position.x(), painted.position.y() - metrics.ascent(),
+                             metrics.horizontalAdvance(painted.text), metrics.height());
+            const QString where = QStringLiteral("%1 at y %2: ").arg(painted.text).arg(y) +
+                                  QStringLiteral("%1,%2 %3x%4")
+                                      .arg(box.x())
+                                      .arg(box.y())
+                                      .arg(box.width())
+                                      .arg(box.height());
+            QVERIFY2(box.left() >= 0 && box.top() >= 0 && box.right() <= view->width() &&
+                         box.bottom() <= view->height(),
+                     qPrintable(where));
+        }
+        QCOMPARE(lines, 6);
+    }
+}
+
+// With no approach selected, error mode has no point to fit: the scene keeps the range it
+// had, through the switch and through the ticks that refit it.
+void SineTabTest::errorModeWithNothingPlottedKeepsTheSceneRange()
+{
+    tickUntil([this] { return scene->xWindow().slideInDone(); });
+    scene->allUnchoose();
+    const float yLow = scene->getYLow();
+    const float yHigh = scene->getYHigh();
+    QVERIFY(yLow < yHigh);
+    child<QCheckBox>("sine_needErrorComparison")->setChecked(true);
+    QVERIFY(scene->isComparingErrors());
+    QCOMPARE(scene->getYLow(), yLow);
+    QCOMPARE(scene->getYHigh(), yHigh);
+    scene->runningMan();
+    QCOMPARE(scene->getYLow(), yLow);
+    QCOMPARE(scene->getYHigh(), yHigh);
+}
+
 void SineTabTest::yLabelsAndLargestErrorLine()
 {
     tickUntil([this] { return scene->xWindow().slideInDone(); });
@@ -426,6 +480,7 @@ void SineTabTest::clickWithoutMovementDoesNotZoom()
     QCOMPARE(scene->zoomDepth(), 0);
 }
 
+// The colour file holds the thirteen default colours, then what the colour map changed.
 void SineTabTest::filesThroughTheDialogs()
 {
     const QString txt = folder->filePath(QStringLiteral("sine data.txt"));
@@ -434,10 +489,30 @@ void SineTabTest::filesThroughTheDialogs()
     saveOrOpen("&Save data to a CSV file ...", csv);
     QCOMPARE(fileContents(txt), sineGolden("default.txt"));
     QCOMPARE(fileContents(csv), sineGolden("default.csv"));
+    const std::string defaults = "Sine Color R 0 G 0 B 0\n"
+                                 "Func1 Color R 255 G 192 B 203\n"
+                                 "Func2 Color R 255 G 20 B 147\n"
+                                 "Func3 Color R 199 G 21 B 133\n"
+                                 "Func4 Color R 139 G 0 B 0\n"
+                                 "Func5 Color R 255 G 0 B 0\n"
+                                 "Func6 Color R 255 G 69 B 0\n"
+                                 "Func7 Color R 255 G 215 B 0\n"
+                                 "Func8 Color R 128 G 128 B 0\n"
+                                 "Func9 Color R 0 G 255 B 0\n"
+                                 "Func10 Color R 0 G 255 B 255\n"
+                                 "Func11 Color R 0 G 0 B 128\n"
+                                 "Func12 Color R 106 G 90 B 205\n";
+    const QString defaultConf = folder->filePath(QStringLiteral("default colours.conf"));
+    saveOrOpen("&Save to a configuration file ...", defaultConf);
+    QCOMPARE(fileContents(defaultConf), defaults);
+
     const QString conf = folder->filePath(QStringLiteral("colours.conf"));
     scene->setColor(5, {1, 2, 3});
     saveOrOpen("&Save to a configuration file ...", conf);
-    QCOMPARE(fileContents(conf).substr(0, 25), std::string("Sine Color R 0 G 0 B 0\nFu"));
+    std::string changed = defaults;
+    const std::string func5 = "Func5 Color R 255 G 0 B 0\n";
+    changed.replace(changed.find(func5), func5.size(), "Func5 Color R 1 G 2 B 3\n");
+    QCOMPARE(fileContents(conf), changed);
     const SineColors saved = scene->colors();
     scene->setColor(5, {9, 9, 9});
     scene->setColor(0, {9, 9, 9});

@@ -115,6 +115,7 @@ private slots:
     void colorMapEditsResetsAndApplies();
     void focusWindowShowsAndMovesTheWindow();
     void focusWindowAppliesAndResetsTheRange();
+    void focusYFieldsRefuseWhatIsNotFinite();
     void helpWindowsShowTheirTexts();
 
 private:
@@ -448,6 +449,47 @@ void SineToolWindowsTest::focusWindowAppliesAndResetsTheRange()
     QCOMPARE(scene->xWindow().end, 20);
     QCOMPARE(scene->xWindow().step, 1);
     expectFocusShowsTheScene(focus);
+}
+
+// Infinity or NaN in a Y field would leave the plot without a range: the last keystroke of
+// such a text is refused, a note says why, and a text set some other way does not reach the
+// scene through Return or "Apply".
+void SineToolWindowsTest::focusYFieldsRefuseWhatIsNotFinite()
+{
+    auto* focus = popTool<SineFocusWindow>("&Region focus ...", "Region focus");
+    QVERIFY(focus != nullptr);
+    auto* note = focus->findChild<QLabel*>(QStringLiteral("yRefusal"));
+    QVERIFY(note != nullptr);
+    QVERIFY(!note->isVisible());
+    const float yLow = scene->getYLow();
+    const float yHigh = scene->getYHigh();
+    const std::pair<const char*, const char*> typed[] = {
+        {"nan", "na"}, {"inf", "in"}, {"-inf", "-in"}, {"1e39", "1e3"}, {"-4e38", "-4e3"}};
+    for (QLineEdit* edit : {focus->yMinEdit(), focus->yMaxEdit()}) {
+        for (const auto& [text, kept] : typed) {
+            retype(edit, QString::fromLatin1(text));
+            QCOMPARE(edit->text(), QString::fromLatin1(kept));
+            QVERIFY(note->isVisible());
+            QCOMPARE(note->text(), QStringLiteral("Only finite numbers"));
+        }
+        retype(edit, QStringLiteral("0.5"));
+        QVERIFY(!note->isVisible());
+    }
+    QCOMPARE(scene->getYLow(), yLow);
+    QCOMPARE(scene->getYHigh(), yHigh);
+
+    focus->yMinEdit()->setText(QStringLiteral("nan"));
+    focus->yMaxEdit()->setText(QStringLiteral("inf"));
+    QTest::keyClick(focus->yMinEdit(), Qt::Key_Return);
+    QTest::keyClick(focus->yMaxEdit(), Qt::Key_Return);
+    QTest::mouseClick(focus->applyButton(), Qt::LeftButton);
+    QCOMPARE(scene->getYLow(), yLow);
+    QCOMPARE(scene->getYHigh(), yHigh);
+    // A finite number still goes through.
+    focus->yMaxEdit()->setText(QStringLiteral("3.5e3"));
+    QTest::mouseClick(focus->applyButton(), Qt::LeftButton);
+    QCOMPARE(scene->getYLow(), yLow);
+    QCOMPARE(scene->getYHigh(), 3500.0f);
 }
 
 void SineToolWindowsTest::helpWindowsShowTheirTexts()
