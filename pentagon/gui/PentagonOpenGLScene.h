@@ -111,6 +111,7 @@ protected:
 
 private:
     void reset();
+    void setAnimating(bool on);
     void startOver(void (PentagonEngine::*restart)());
     void step(void (PentagonEngine::*operation)());
     void showCounts();

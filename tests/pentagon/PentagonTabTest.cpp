@@ -22,6 +22,7 @@
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QtTest>
+#include <cstring>
 
 namespace
 {
@@ -40,6 +41,16 @@ QString golden(const char* name)
 
 const QColor kInitialRed(255, 0, 0);
 const QColor kNewestBlue(0, 0, 255);
+const QColor kPointOrange(255, 165, 0);
+const QColor kPointGreen(0, 255, 0);
+
+// QCOMPARE takes floats as equal when they are close; these checks want the very value.
+uint32_t bitsOf(float value)
+{
+    uint32_t bits = 0;
+    std::memcpy(&bits, &value, sizeof bits);
+    return bits;
+}
 
 } // namespace
 
@@ -58,6 +69,8 @@ private slots:
     void leavingToleranceModeEndsInTheNewMode();
     void failedStepShowsItsMessageAndRefusesMore();
     void manualEntryShowsPointsThenThePentagon();
+    void clearWhileEnteringStartsTheEntryAgain();
+    void toleranceAfterRegularBuildsTheDefaultShape();
     void dragZoomsAndRightClickRefits();
     void labelsAndGridLines();
     void focusWindowShowsAndSetsTheRange();
@@ -85,6 +98,8 @@ private:
     QStringList listedRow(PentagonMiniMap* history, int row) const;
     void clickListRow(PentagonMiniMap* history, int row, Qt::MouseButton button = Qt::LeftButton);
     void runAnimatedExample();
+    QPoint pixelAt(float x, float y) const;
+    void clickPoint(float x, float y);
 
     std::unique_ptr<MainWindow> window;
     std::unique_ptr<QTemporaryDir> folder;
@@ -175,6 +190,19 @@ void PentagonTabTest::runAnimatedExample()
     for (int tick = 0; tick < 10; ++tick) {
         scene->runningMan();
     }
+}
+
+// Where a point of the -1 .. 1 square that manual entry shows lies in the view.
+QPoint PentagonTabTest::pixelAt(float x, float y) const
+{
+    const QSize size = view->viewport()->size();
+    return QPoint(int(float(size.width()) * (x + 1.0f) / 2.0f),
+                  int(float(size.height()) * (1.0f - y) / 2.0f));
+}
+
+void PentagonTabTest::clickPoint(float x, float y)
+{
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, pixelAt(x, y));
 }
 
 void PentagonTabTest::panelStartsAsTheAnimatedExample()
@@ -341,19 +369,14 @@ void PentagonTabTest::failedStepShowsItsMessageAndRefusesMore()
 void PentagonTabTest::manualEntryShowsPointsThenThePentagon()
 {
     choose("pentagon_userInput");
-    const QSize size = view->viewport()->size();
-    const auto at = [size](float x, float y) {
-        return QPoint(int(float(size.width()) * (x + 1.0f) / 2.0f),
-                      int(float(size.height()) * (1.0f - y) / 2.0f));
-    };
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(-0.5f, -0.5f));
+    clickPoint(-0.5f, -0.5f);
     QCOMPARE(scene->engine().getUserPointCount(), 1);
     QImage frame = plot();
     QVERIFY(hasColor(frame, kInitialRed));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.5f, -0.5f));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.5f, 0.5f));
+    clickPoint(0.5f, -0.5f);
+    clickPoint(0.5f, 0.5f);
     // Inside the triangle so far: refused.
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.2f, -0.2f));
+    clickPoint(0.2f, -0.2f);
     QCOMPARE(scene->engine().getUserPointCount(), 3);
     // In and Out wait for the fifth point.
     click("pentagon_In");
@@ -361,18 +384,97 @@ void PentagonTabTest::manualEntryShowsPointsThenThePentagon()
     QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("0"));
     frame = plot();
     // Points 1 to 3 in red, orange and green; no Point 4 blue, no line between the points.
-    QVERIFY(hasColor(frame, QColor(255, 165, 0)));
-    QVERIFY(hasColor(frame, QColor(0, 255, 0)));
+    QVERIFY(hasColor(frame, kPointOrange));
+    QVERIFY(hasColor(frame, kPointGreen));
     QVERIFY(!hasColor(frame, kNewestBlue));
-    const QPoint middle = (at(-0.5f, -0.5f) + at(0.5f, -0.5f)) / 2;
+    const QPoint middle = (pixelAt(-0.5f, -0.5f) + pixelAt(0.5f, -0.5f)) / 2;
     QCOMPARE(QColor(frame.pixel(middle)), QColor(Qt::white));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.0f, 0.8f));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(-0.5f, 0.5f));
+    clickPoint(0.0f, 0.8f);
+    clickPoint(-0.5f, 0.5f);
     QCOMPARE(scene->engine().getUserPointCount(), 5);
     QCOMPARE(scene->engine().getHistory().size(), 1u);
     click("pentagon_In");
     QCOMPARE(scene->engine().getHistory().size(), 2u);
     QVERIFY(hasColor(plot(), kNewestBlue));
+}
+
+// Clear while points are being entered throws them away: the entry starts again from none,
+// and the next five clicks alone make the pentagon.
+void PentagonTabTest::clearWhileEnteringStartsTheEntryAgain()
+{
+    choose("pentagon_userInput");
+    clickPoint(-0.5f, -0.5f);
+    clickPoint(0.5f, -0.5f);
+    clickPoint(0.5f, 0.5f);
+    QCOMPARE(scene->engine().getUserPointCount(), 3);
+    click("pentagon_clean");
+    QCOMPARE(scene->engine().getUserPointCount(), 0);
+    QVERIFY(scene->engine().getHistory().empty());
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("0"));
+    QCOMPARE(bitsOf(scene->range().xMin), bitsOf(-1.0f));
+    QCOMPARE(bitsOf(scene->range().yMax), bitsOf(1.0f));
+    // No point is shown and no pentagon is drawn.
+    const QImage frame = plot();
+    QVERIFY(!hasColor(frame, kInitialRed));
+    QVERIFY(!hasColor(frame, kPointOrange));
+    QVERIFY(!hasColor(frame, kPointGreen));
+
+    const std::pair<float, float> corners[] = {
+        {-0.25f, -0.75f}, {0.75f, -0.25f}, {0.5f, 0.5f}, {-0.25f, 0.75f}, {-0.75f, 0.0f}};
+    for (const auto& [x, y] : corners) {
+        clickPoint(x, y);
+    }
+    QCOMPARE(scene->engine().getUserPointCount(), 5);
+    QCOMPARE(scene->engine().getHistory().size(), 1u);
+    // Each point is its click read back from view pixels to -1 .. 1.
+    const float w = float(view->viewport()->width());
+    const float h = float(view->viewport()->height());
+    for (int point = 1; point <= 5; ++point) {
+        const QPoint pixel = pixelAt(corners[point - 1].first, corners[point - 1].second);
+        const float x = ((float(pixel.x()) - w * 0.5f) * 2.0f) / w;
+        const float y = ((h * 0.5f - float(pixel.y())) * 2.0f) / h;
+        QCOMPARE(bitsOf(scene->engine().getInitialPoints().x(point)), bitsOf(x));
+        QCOMPARE(bitsOf(scene->engine().getInitialPoints().y(point)), bitsOf(y));
+    }
+}
+
+// "Regular" belongs to the animated example: "Tolerance (epsilon)" builds the Default shape
+// (0,0), (0,1), (1,e), (e,1), (1,0) with e = 1 + epsilon, each epsilon rebuilds it and fits
+// the view to it, and back in the animation (Regular still chosen) the regular one returns.
+void PentagonTabTest::toleranceAfterRegularBuildsTheDefaultShape()
+{
+    choose("pentagon_animate_regular");
+    QCOMPARE(scene->engine().getInitialPoints().x(1), 1.0f);
+    const auto expectDefaultShape = [this](uint32_t e) {
+        const std::vector<uint32_t> expected = {0, 0, 0,           0x3F800000u, 0x3F800000u,
+                                                e, e, 0x3F800000u, 0x3F800000u, 0};
+        std::vector<uint32_t> shown;
+        for (const float coordinate : scene->engine().getInitialPoints().coordinates) {
+            shown.push_back(bitsOf(coordinate));
+        }
+        QCOMPARE(shown, expected);
+    };
+    choose("pentagon_autoInput");
+    // Epsilon 0.1 as before: e = single(1 + single(0.1)); the box 0 .. e, square and 10%
+    // larger, is -0.055 .. 1.155.
+    expectDefaultShape(0x3F8CCCCDu);
+    QCOMPARE(bitsOf(scene->range().xMin), 0xBD6147B0u);
+    QCOMPARE(bitsOf(scene->range().yMax), 0x3F93D70Au);
+    choose("pentagon_epsilon2");
+    // e = single(1 + single(0.05)) = 1.05; the view -0.0525 .. 1.1025.
+    expectDefaultShape(0x3F866666u);
+    QCOMPARE(bitsOf(scene->range().xMin), 0xBD570A40u);
+    QCOMPARE(bitsOf(scene->range().yMax), 0x3F8D1EB8u);
+    // The plot shows it: the red edge from (0, 0) to (0, 1) stands at x = 0.
+    const QImage frame = plot();
+    const int edge = int(float(frame.width()) * (0.0f - scene->range().xMin) /
+                         (scene->range().xMax - scene->range().xMin));
+    QVERIFY(hasColor(frame, kInitialRed, edge - 1, edge + 2));
+
+    choose("pentagon_animateInput");
+    QVERIFY(child<QRadioButton>("pentagon_animate_regular")->isChecked());
+    QCOMPARE(bitsOf(scene->engine().getInitialPoints().x(1)), 0x3F800000u);
+    QCOMPARE(bitsOf(scene->engine().getInitialPoints().y(2)), 0x3F737870u);
 }
 
 void PentagonTabTest::dragZoomsAndRightClickRefits()
