@@ -687,18 +687,34 @@ void PentagonOpenGLScene::drawForeground(QPainter* painter, const QRectF&)
     }
 }
 
-// Along the bottom, each label turned by 90 degrees about its anchor.
+// An x value's grid line stands half its label's width right of the value's position.
+float PentagonOpenGLScene::verticalGridLineX(float value) const
+{
+    const QFontMetrics metrics(quillon::plotOverlayFont());
+    return float(viewWidth) * (value - xMin) / (xMax - xMin) +
+           float(metrics.horizontalAdvance(labelText(value))) / 2.0f;
+}
+
+// Along the bottom, each label turned by 90 degrees about its anchor so that it reads upwards,
+// and centred on its value's grid line: a student reads each line's value from the label the
+// line runs through.
 void PentagonOpenGLScene::drawXLabels(QPainter* painter) const
 {
-    painter->setFont(quillon::plotOverlayFont());
+    const QFont font = quillon::plotOverlayFont();
+    const QFontMetricsF metrics(font);
+    painter->setFont(font);
     painter->setPen(Qt::darkMagenta);
     for (int i = 0; i < quillon::kPlotGridLines; ++i) {
         const float value = quillon::plotGridValue(i, xMin, xMax);
-        const float x = float(viewWidth) * (value - xMin) / (xMax - xMin);
+        const QString text = labelText(value);
+        // Turned upwards, the text's height lies across the view: its ink, from the top of the
+        // glyphs to their bottom, runs from anchor + top to anchor + bottom.
+        const double anchor =
+            double(verticalGridLineX(value)) - metrics.tightBoundingRect(text).center().y();
         painter->save();
-        painter->translate(QPointF(x, viewHeight));
+        painter->translate(QPointF(anchor, viewHeight));
         painter->rotate(-90);
-        painter->drawText(QPointF(0, 0), labelText(value));
+        painter->drawText(QPointF(0, 0), text);
         painter->restore();
     }
 }
@@ -707,11 +723,8 @@ void PentagonOpenGLScene::drawXLabels(QPainter* painter) const
 void PentagonOpenGLScene::drawVerticalGridLines(QPainter* painter) const
 {
     painter->setPen(Qt::darkMagenta);
-    const QFontMetrics metrics(quillon::plotOverlayFont());
     for (int i = 0; i < quillon::kPlotGridLines; ++i) {
-        const float value = quillon::plotGridValue(i, xMin, xMax);
-        const float x = float(viewWidth) * (value - xMin) / (xMax - xMin) +
-                        float(metrics.horizontalAdvance(labelText(value))) / 2.0f;
+        const float x = verticalGridLineX(quillon::plotGridValue(i, xMin, xMax));
         painter->drawLine(QPointF(x, 0), QPointF(x, viewHeight));
     }
 }

@@ -10,6 +10,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QGraphicsView>
 #include <QGroupBox>
 #include <QLabel>
@@ -52,6 +53,40 @@ uint32_t bitsOf(float value)
     return bits;
 }
 
+// The middles of the runs of neighbouring columns that hold a pixel for which `counts` is
+// true, scanned from row `top` down to the bottom.
+QList<double> columnRunMiddles(const QImage& image, int top,
+                               const std::function<bool(QRgb)>& counts)
+{
+    QList<double> middles;
+    int runStart = -1;
+    for (int x = 0; x <= image.width(); ++x) {
+        bool hit = false;
+        for (int y = top; x < image.width() && y < image.height() && !hit; ++y) {
+            hit = counts(image.pixel(x, y));
+        }
+        if (hit && runStart < 0) {
+            runStart = x;
+        } else if (!hit && runStart >= 0) {
+            middles << (runStart + x - 1) / 2.0;
+            runStart = -1;
+        }
+    }
+    return middles;
+}
+
+// Label text is dark magenta smoothed into the white plot: red and blue stay equal and green
+// lower. The pentagon's pure red never counts.
+bool isLabelInk(QRgb pixel)
+{
+    return qAbs(qRed(pixel) - qBlue(pixel)) <= 12 && qGreen(pixel) + 40 <= qRed(pixel);
+}
+
+bool isGridLine(QRgb pixel)
+{
+    return QColor(pixel) == QColor(Qt::darkMagenta);
+}
+
 } // namespace
 
 class PentagonTabTest : public QObject
@@ -73,6 +108,7 @@ private slots:
     void toleranceAfterRegularBuildsTheDefaultShape();
     void dragZoomsAndRightClickRefits();
     void labelsAndGridLines();
+    void xGridLinesRunThroughTheMiddleOfTheirLabels();
     void focusWindowShowsAndSetsTheRange();
     void filesThroughTheDialogs();
     void damagedConfigurationFilesChangeOnlyWhatTheyHold();
@@ -514,6 +550,62 @@ void PentagonTabTest::labelsAndGridLines()
     QVERIFY(!hasColor(before, QColor(Qt::darkMagenta)));
     child<QCheckBox>("pentagon_yaxis")->click();
     QVERIFY(hasColor(plot(), QColor(Qt::darkMagenta)));
+    child<QCheckBox>("pentagon_yaxis")->click();
+    QVERIFY(!hasColor(plot(), QColor(Qt::darkMagenta)));
+    child<QCheckBox>("pentagon_xaxis")->click();
+    // Vertical lines from top to bottom.
+    const QImage lines = plot();
+    QVERIFY(!columnRunMiddles(lines.copy(0, 0, lines.width(), 1), 0, isGridLine).isEmpty());
+    QCOMPARE(columnRunMiddles(lines.copy(0, 0, lines.width(), 1), 0, isGridLine),
+             columnRunMiddles(lines.copy(0, lines.height() - 1, lines.width(), 1), 0, isGridLine));
+}
+
+// With "Tolerance (epsilon)", each vertical grid line stands at its value's x plus half the
+// width of the value's "%.2e" label, and runs through the middle of that label, turned
+// upwards along the bottom: the student reads the line's own value.
+void PentagonTabTest::xGridLinesRunThroughTheMiddleOfTheirLabels()
+{
+    choose("pentagon_autoInput");
+    child<QCheckBox>("pentagon_xaxis")->click();
+    const QImage lines = plot();
+    const QList<double> linesAtTop =
+        columnRunMiddles(lines.copy(0, 0, lines.width(), 1), 0, isGridLine);
+    child<QCheckBox>("pentagon_xaxis")->click();
+    child<QCheckBox>("pentagon_xvalues")->click();
+    const QImage labels = plot();
+    // The labels are about 55 pixels long; nothing else in the bottom 100 rows is magenta.
+    const QList<double> labelMiddles = columnRunMiddles(labels, labels.height() - 100, isLabelInk);
+
+    // The 21 grid values from the range's middle in steps of a twentieth; the last line and
+    // label lie beyond the right edge.
+    const PentagonRange range = scene->range();
+    const QFontMetrics metrics(QFont(QStringLiteral("times"), 10, QFont::Bold));
+    QList<double> expected;
+    for (int i = 0; i <= 20; ++i) {
+        const float value =
+            (range.xMax - range.xMin) / 20.0f * float(i - 10) + (range.xMax + range.xMin) / 2.0f;
+        const float x =
+            float(lines.width()) * (value - range.xMin) / (range.xMax - range.xMin) +
+            float(metrics.horizontalAdvance(QString::asprintf("%.2e", double(value)))) / 2.0f;
+        if (x < float(lines.width())) {
+            expected << x;
+        }
+    }
+    QCOMPARE(expected.size(), 20);
+    QCOMPARE(linesAtTop.size(), expected.size());
+    QCOMPARE(labelMiddles.size(), expected.size());
+    // A one-pixel line drawn at a fractional x fills the pixel at or just left of it, and the
+    // smoothed text's faintest edges fall below the ink test: a pixel, or a pixel and a half
+    // between two middles, is the most that rounding to pixels explains.
+    for (int i = 0; i < expected.size(); ++i) {
+        const QString where = QStringLiteral("line %1 at %2, expected at %3, its label's middle %4")
+                                  .arg(i)
+                                  .arg(linesAtTop[i])
+                                  .arg(expected[i])
+                                  .arg(labelMiddles[i]);
+        QVERIFY2(qAbs(linesAtTop[i] - expected[i]) <= 1.0, qPrintable(where));
+        QVERIFY2(qAbs(linesAtTop[i] - labelMiddles[i]) <= 1.5, qPrintable(where));
+    }
 }
 
 // The fields show "-1.0" until the range is first fitted, then the fitted range with "%f";
