@@ -10,6 +10,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
 #include <QFontMetrics>
 #include <QGraphicsView>
 #include <QGroupBox>
@@ -106,6 +107,7 @@ private slots:
     void manualEntryShowsPointsThenThePentagon();
     void clearWhileEnteringStartsTheEntryAgain();
     void toleranceAfterRegularBuildsTheDefaultShape();
+    void timerDrivesTheAnimationEvery400ms();
     void dragZoomsAndRightClickRefits();
     void labelsAndGridLines();
     void xGridLinesRunThroughTheMiddleOfTheirLabels();
@@ -513,6 +515,32 @@ void PentagonTabTest::toleranceAfterRegularBuildsTheDefaultShape()
     QCOMPARE(bitsOf(scene->engine().getInitialPoints().y(2)), 0x3F737870u);
 }
 
+// The main window's timer ticks the animation every 400 ms, one step a tick once started.
+void PentagonTabTest::timerDrivesTheAnimationEvery400ms()
+{
+    // A window of its own, whose timer runs: the others' is stopped.
+    window = std::make_unique<MainWindow>();
+    view = qobject_cast<GraphicsView*>(showPlotTab(*window, 1, "pentagon_VisWindow"));
+    QVERIFY(view != nullptr);
+    scene = qobject_cast<PentagonOpenGLScene*>(view->scene());
+    auto* timer = window->findChild<QTimer*>(QStringLiteral("pentagon_timer"));
+    QVERIFY(timer != nullptr);
+    QVERIFY(timer->isActive());
+    QCOMPARE(timer->interval(), 400);
+    // Paused until Start.
+    QTest::qWait(900);
+    QCOMPARE(scene->engine().getNumIns(), 0);
+    click("pentagon_Default");
+    QTRY_COMPARE_WITH_TIMEOUT(scene->getAnimationStep(), 1, 2000);
+    QElapsedTimer clock;
+    clock.start();
+    QTRY_COMPARE_WITH_TIMEOUT(scene->getAnimationStep(), 3, 3000);
+    // Two more ticks, 800 ms less what the polling of the checks may miss.
+    QVERIFY2(clock.elapsed() >= 700, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(scene->engine().getNumIns(), 3);
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("3"));
+}
+
 void PentagonTabTest::dragZoomsAndRightClickRefits()
 {
     const PentagonRange fitted = scene->range();
@@ -522,16 +550,24 @@ void PentagonTabTest::dragZoomsAndRightClickRefits()
     QTest::mouseRelease(view->viewport(), Qt::LeftButton, {},
                         QPoint(size.width() / 2, size.height() / 2));
     QCOMPARE(scene->zoomDepth(), 1);
-    // The lower left quarter of the range.
-    QCOMPARE(scene->range().xMin, fitted.xMin);
-    QCOMPARE(scene->range().yMin, fitted.yMin);
-    QVERIFY(qAbs(scene->range().xMax - (fitted.xMin + fitted.xMax) / 2) < 1e-2f);
-    QVERIFY(qAbs(scene->range().yMax - (fitted.yMin + fitted.yMax) / 2) < 1e-2f);
+    // The lower left quarter of the range: the press corner is the range's own, the release
+    // corner the fractions w/2 / w across and (h - h/2) / h up, in single precision.
+    const float fx = float(size.width() / 2) / float(size.width());
+    const float fy = float(size.height() - size.height() / 2) / float(size.height());
+    QCOMPARE(bitsOf(scene->range().xMin), bitsOf(fitted.xMin));
+    QCOMPARE(bitsOf(scene->range().yMin), bitsOf(fitted.yMin));
+    QCOMPARE(bitsOf(scene->range().xMax), bitsOf(fitted.xMin + (fitted.xMax - fitted.xMin) * fx));
+    QCOMPARE(bitsOf(scene->range().yMax), bitsOf(fitted.yMin + (fitted.yMax - fitted.yMin) * fy));
     QTest::mouseClick(view->viewport(), Qt::RightButton, {}, QPoint(10, 10));
     QCOMPARE(scene->zoomDepth(), 0);
-    // Refitted to the drawn pentagon: the same range as at the start.
-    QVERIFY(qAbs(scene->range().xMin - fitted.xMin) < 1e-6f);
-    QVERIFY(qAbs(scene->range().yMax - fitted.yMax) < 1e-6f);
+    // Refitted to the drawn pentagon, the Default one with epsilon 0.1: the same range as at
+    // the start, -0.055 .. 1.155 both ways.
+    for (const float bound : {fitted.xMin, scene->range().xMin, scene->range().yMin}) {
+        QCOMPARE(bitsOf(bound), 0xBD6147B0u);
+    }
+    for (const float bound : {fitted.xMax, scene->range().xMax, scene->range().yMax}) {
+        QCOMPARE(bitsOf(bound), 0x3F93D70Au);
+    }
 }
 
 void PentagonTabTest::labelsAndGridLines()
