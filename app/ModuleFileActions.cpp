@@ -1,5 +1,7 @@
 #include "app/ModuleFileActions.h"
 
+#include "app/NameOnlyFileIconProvider.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QMessageBox>
@@ -37,14 +39,23 @@ size_t indexOf(FileAction action)
     return static_cast<size_t>(action);
 }
 
+// The dialog that the static QFileDialog functions make, with one change: it tells files
+// apart by name only and never reads one to show it.
 QString askFileName(QWidget* parent, const FileDialogSetup& setup)
 {
-    const QString title = QObject::tr(setup.title);
-    const QString filter = QObject::tr(setup.filter);
+    NameOnlyFileIconProvider icons;
+    QFileDialog dialog(parent, QObject::tr(setup.title), QDir::currentPath(),
+                       QObject::tr(setup.filter));
+    dialog.setIconProvider(&icons);
     if (setup.opensFile) {
-        return QFileDialog::getOpenFileName(parent, title, QDir::currentPath(), filter);
+        dialog.setFileMode(QFileDialog::ExistingFile);
+    } else {
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
     }
-    return QFileDialog::getSaveFileName(parent, title, QDir::currentPath(), filter);
+    if (dialog.exec() != QDialog::Accepted) {
+        return QString();
+    }
+    return dialog.selectedFiles().value(0);
 }
 
 } // namespace

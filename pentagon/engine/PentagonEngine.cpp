@@ -100,7 +100,7 @@ void PentagonEngine::step(const std::array<PentagonStepRow, 5>& table, bool isOu
 
 void PentagonEngine::buildInitialPentagon()
 {
-    if (regular) {
+    if (regular && animatedExample) {
         for (int point = 1; point <= 5; ++point) {
             const double angle = kRegularAngles[size_t(point - 1)];
             initialPoints.x(point) = float(std::cos(angle));
@@ -169,6 +169,12 @@ void PentagonEngine::resetHistory()
 
 void PentagonEngine::clearHistory()
 {
+    // Before the fifth point there is no pentagon to keep, and the initial points still hold
+    // coordinates that were never clicked.
+    if (isEnteringPoints()) {
+        resetHistory();
+        return;
+    }
     if (!history.empty()) {
         initialPoints = history.front();
     }

@@ -53,7 +53,8 @@ public:
 
     // Starts over with the chosen shape (or, in manual mode, with no points yet).
     void resetHistory();
-    // Starts over from the same initial pentagon.
+    // Starts over from the same initial pentagon; while one is being entered, discards the
+    // points entered so far and the entry starts again from none.
     void clearHistory();
 
     // Adds a clicked point of a manually entered pentagon (ignored after the fifth); a point
@@ -63,11 +64,16 @@ public:
 
     void setEpsilon(float value) { epsilon = value; }
     void setRegular(bool value) { regular = value; }
+    // The regular shape belongs to the animated example: outside it the built-in pentagon is
+    // the Default one, whatever setRegular() chose.
+    void setAnimatedExample(bool value) { animatedExample = value; }
     void setUserMode(bool value) { userMode = value; }
 
     float getEpsilon() const { return epsilon; }
     bool isRegular() const { return regular; }
     bool isUserMode() const { return userMode; }
+    // In manual mode before the fifth point: no pentagon yet, only the points entered so far.
+    bool isEnteringPoints() const { return userMode && userPointCount < 5; }
     // The status of the last step begun (0 before any).
     int lastStatus() const { return statusList.back(); }
     bool hasFailed() const { return lastStatus() != StatusOk; }
@@ -120,6 +126,7 @@ private:
     int insMinusOuts = 0;
     float distance = 0;
     bool regular = false;
+    bool animatedExample = true;
     bool userMode = false;
     PentagonRange range;
     // The smallest and largest coordinates of the history's pentagons, widened as each one

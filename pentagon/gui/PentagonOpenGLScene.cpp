@@ -198,7 +198,7 @@ void PentagonOpenGLScene::out()
 void PentagonOpenGLScene::step(void (PentagonEngine::*operation)())
 {
     // While a pentagon is being entered there is nothing to step.
-    if (geometry.isUserMode() && geometry.getUserPointCount() < 5) {
+    if (geometry.isEnteringPoints()) {
         return;
     }
     const size_t before = geometry.getHistory().size();
@@ -211,6 +211,13 @@ void PentagonOpenGLScene::step(void (PentagonEngine::*operation)())
     repaint();
 }
 
+// Only the animated example builds the regular pentagon, so the engine follows the mode.
+void PentagonOpenGLScene::setAnimating(bool on)
+{
+    animating = on;
+    geometry.setAnimatedExample(on);
+}
+
 void PentagonOpenGLScene::autoPentagon(bool on)
 {
     if (!on) {
@@ -220,7 +227,7 @@ void PentagonOpenGLScene::autoPentagon(bool on)
     }
     panel.epsilonGroup->show();
     animationStep = 0;
-    animating = false;
+    setAnimating(false);
     geometry.setUserMode(false);
     reset();
     panel.animateInput->setChecked(false);
@@ -232,7 +239,7 @@ void PentagonOpenGLScene::autoPentagon(bool on)
 
 void PentagonOpenGLScene::UserPentagon(bool on)
 {
-    animating = false;
+    setAnimating(false);
     reset();
     geometry.setUserMode(on);
     animationStep = 0;
@@ -247,7 +254,7 @@ void PentagonOpenGLScene::UserPentagon(bool on)
 
 void PentagonOpenGLScene::needAnimation(bool on)
 {
-    animating = on;
+    setAnimating(on);
     panel.animationCount->show();
     panel.animationPentagon->show();
     animationStep = 0;
@@ -479,7 +486,7 @@ std::vector<PentagonPoints> PentagonOpenGLScene::selectedPentagons() const
 // While points are being entered nothing is walked and the current range is widened by 10%.
 PentagonRange PentagonOpenGLScene::fittedRange() const
 {
-    const bool entering = geometry.isUserMode() && geometry.getUserPointCount() < 5;
+    const bool entering = geometry.isEnteringPoints();
     return pentagonFittedRange(range(),
                                entering ? std::vector<PentagonPoints>{} : drawnPentagons());
 }
@@ -489,7 +496,7 @@ void PentagonOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
     mousePos = event->scenePos();
     if (event->button() == Qt::LeftButton) {
         pressPos = event->scenePos();
-        if (geometry.isUserMode() && geometry.getUserPointCount() < 5 && !views().isEmpty()) {
+        if (geometry.isEnteringPoints() && !views().isEmpty()) {
             // While entering, the view shows -1 .. 1 both ways.
             const QRect viewport = views().first()->viewport()->rect();
             const float w = float(viewport.width());
@@ -589,7 +596,7 @@ void PentagonOpenGLScene::drawBackground(QPainter* painter, const QRectF& rect)
     quillon::GlPlotFrame frame(painter);
     frame.clearToWhite();
     frame.lookAtOrthographic(xMin, xMax, yMin, yMax);
-    if (!selectionMode && geometry.isUserMode() && geometry.getUserPointCount() < 5) {
+    if (!selectionMode && geometry.isEnteringPoints()) {
         drawEnteredPoints();
     } else {
         drawHistory();
@@ -680,18 +687,34 @@ void PentagonOpenGLScene::drawForeground(QPainter* painter, const QRectF&)
     }
 }
 
-// Along the bottom, each label turned by 90 degrees about its anchor.
+// An x value's grid line stands half its label's width right of the value's position.
+float PentagonOpenGLScene::verticalGridLineX(float value) const
+{
+    const QFontMetrics metrics(quillon::plotOverlayFont());
+    return float(viewWidth) * (value - xMin) / (xMax - xMin) +
+           float(metrics.horizontalAdvance(labelText(value))) / 2.0f;
+}
+
+// Along the bottom, each label turned by 90 degrees about its anchor so that it reads upwards,
+// and centred on its value's grid line: a student reads each line's value from the label the
+// line runs through.
 void PentagonOpenGLScene::drawXLabels(QPainter* painter) const
 {
-    painter->setFont(quillon::plotOverlayFont());
+    const QFont font = quillon::plotOverlayFont();
+    const QFontMetricsF metrics(font);
+    painter->setFont(font);
     painter->setPen(Qt::darkMagenta);
     for (int i = 0; i < quillon::kPlotGridLines; ++i) {
         const float value = quillon::plotGridValue(i, xMin, xMax);
-        const float x = float(viewWidth) * (value - xMin) / (xMax - xMin);
+        const QString text = labelText(value);
+        // Turned upwards, the text's height lies across the view: its ink, from the top of the
+        // glyphs to their bottom, runs from anchor + top to anchor + bottom.
+        const double anchor =
+            double(verticalGridLineX(value)) - metrics.tightBoundingRect(text).center().y();
         painter->save();
-        painter->translate(QPointF(x, viewHeight));
+        painter->translate(QPointF(anchor, viewHeight));
         painter->rotate(-90);
-        painter->drawText(QPointF(0, 0), labelText(value));
+        painter->drawText(QPointF(0, 0), text);
         painter->restore();
     }
 }
@@ -700,11 +723,8 @@ void PentagonOpenGLScene::drawXLabels(QPainter* painter) const
 void PentagonOpenGLScene::drawVerticalGridLines(QPainter* painter) const
 {
     painter->setPen(Qt::darkMagenta);
-    const QFontMetrics metrics(quillon::plotOverlayFont());
     for (int i = 0; i < quillon::kPlotGridLines; ++i) {
-        const float value = quillon::plotGridValue(i, xMin, xMax);
-        const float x = float(viewWidth) * (value - xMin) / (xMax - xMin) +
-                        float(metrics.horizontalAdvance(labelText(value))) / 2.0f;
+        const float x = verticalGridLineX(quillon::plotGridValue(i, xMin, xMax));
         painter->drawLine(QPointF(x, 0), QPointF(x, viewHeight));
     }
 }

@@ -111,6 +111,7 @@ protected:
 
 private:
     void reset();
+    void setAnimating(bool on);
     void startOver(void (PentagonEngine::*restart)());
     void step(void (PentagonEngine::*operation)());
     void showCounts();
@@ -125,6 +126,7 @@ private:
     PentagonRange fittedRange() const;
     void drawEnteredPoints() const;
     void drawHistory() const;
+    float verticalGridLineX(float value) const;
     void drawXLabels(QPainter* painter) const;
     void drawVerticalGridLines(QPainter* painter) const;
     void drawHorizontalGridLines(QPainter* painter) const;

@@ -289,3 +289,54 @@ TEST(PentagonEngine, ReflexAngleIsRefused)
     engine.addManualPoint(1, 2);
     EXPECT_EQ(engine.getUserPointCount(), 3);
 }
+
+// The regular shape belongs to the animated example: outside it the built-in pentagon is the
+// Default one, (0,0), (0,1), (1,e), (e,1), (1,0) with e = single(1 + single(0.1)) = 0x3F8CCCCD,
+// whatever setRegular() chose; back in the example the regular one returns.
+TEST(PentagonEngine, RegularShapeOnlyInTheAnimatedExample)
+{
+    PentagonEngine engine = regularPentagon();
+    engine.setAnimatedExample(false);
+    engine.resetHistory();
+    const std::vector<uint32_t> defaultShape = {
+        0, 0, 0, 0x3F800000u, 0x3F800000u, 0x3F8CCCCDu, 0x3F8CCCCDu, 0x3F800000u, 0x3F800000u, 0};
+    EXPECT_EQ(bitsOf(engine.getInitialPoints()), defaultShape);
+    EXPECT_EQ(bitsOf(engine.getHistory().front()), defaultShape);
+    engine.clearHistory();
+    EXPECT_EQ(bitsOf(engine.getInitialPoints()), defaultShape);
+
+    engine.setAnimatedExample(true);
+    engine.resetHistory();
+    EXPECT_EQ(bits(engine.getInitialPoints().x(1)), 0x3F800000u);
+    EXPECT_EQ(bits(engine.getInitialPoints().y(2)), 0x3F737870u);
+}
+
+// Clear while points are being entered throws them away: the entry starts again from none,
+// with no history and the view at -1 .. 1, and the next five clicks alone make the pentagon.
+TEST(PentagonEngine, ClearWhileEnteringStartsTheEntryAgain)
+{
+    PentagonEngine engine;
+    engine.setUserMode(true);
+    engine.resetHistory();
+    engine.addManualPoint(-0.5f, -0.5f);
+    engine.addManualPoint(0.5f, -0.5f);
+    engine.addManualPoint(0.5f, 0.5f);
+    engine.clearHistory();
+    EXPECT_EQ(engine.getUserPointCount(), 0);
+    EXPECT_TRUE(engine.getHistory().empty());
+    EXPECT_EQ(engine.getStatusList(), std::vector<int>{0});
+    EXPECT_EQ(engine.getNumIns(), 0);
+    expectRange(engine.fittedRange(), {0xBF800000u, 0x3F800000u, 0xBF800000u, 0x3F800000u});
+
+    const std::vector<std::pair<float, float>> clicks = {
+        {-0.25f, -0.75f}, {0.75f, -0.25f}, {0.5f, 0.5f}, {-0.25f, 0.75f}, {-0.75f, 0.0f}};
+    for (const auto& [x, y] : clicks) {
+        engine.addManualPoint(x, y);
+    }
+    ASSERT_EQ(engine.getUserPointCount(), 5);
+    ASSERT_EQ(engine.getHistory().size(), 1u);
+    for (int point = 1; point <= 5; ++point) {
+        EXPECT_EQ(engine.getInitialPoints().x(point), clicks[size_t(point - 1)].first) << point;
+        EXPECT_EQ(engine.getInitialPoints().y(point), clicks[size_t(point - 1)].second) << point;
+    }
+}

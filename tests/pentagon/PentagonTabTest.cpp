@@ -10,6 +10,8 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QElapsedTimer>
+#include <QFontMetrics>
 #include <QGraphicsView>
 #include <QGroupBox>
 #include <QLabel>
@@ -22,6 +24,7 @@
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QtTest>
+#include <cstring>
 
 namespace
 {
@@ -40,6 +43,50 @@ QString golden(const char* name)
 
 const QColor kInitialRed(255, 0, 0);
 const QColor kNewestBlue(0, 0, 255);
+const QColor kPointOrange(255, 165, 0);
+const QColor kPointGreen(0, 255, 0);
+
+// QCOMPARE takes floats as equal when they are close; these checks want the very value.
+uint32_t bitsOf(float value)
+{
+    uint32_t bits = 0;
+    std::memcpy(&bits, &value, sizeof bits);
+    return bits;
+}
+
+// The middles of the runs of neighbouring columns that hold a pixel for which `counts` is
+// true, scanned from row `top` down to the bottom.
+QList<double> columnRunMiddles(const QImage& image, int top,
+                               const std::function<bool(QRgb)>& counts)
+{
+    QList<double> middles;
+    int runStart = -1;
+    for (int x = 0; x <= image.width(); ++x) {
+        bool hit = false;
+        for (int y = top; x < image.width() && y < image.height() && !hit; ++y) {
+            hit = counts(image.pixel(x, y));
+        }
+        if (hit && runStart < 0) {
+            runStart = x;
+        } else if (!hit && runStart >= 0) {
+            middles << (runStart + x - 1) / 2.0;
+            runStart = -1;
+        }
+    }
+    return middles;
+}
+
+// Label text is dark magenta smoothed into the white plot: red and blue stay equal and green
+// lower. The pentagon's pure red never counts.
+bool isLabelInk(QRgb pixel)
+{
+    return qAbs(qRed(pixel) - qBlue(pixel)) <= 12 && qGreen(pixel) + 40 <= qRed(pixel);
+}
+
+bool isGridLine(QRgb pixel)
+{
+    return QColor(pixel) == QColor(Qt::darkMagenta);
+}
 
 } // namespace
 
@@ -58,8 +105,12 @@ private slots:
     void leavingToleranceModeEndsInTheNewMode();
     void failedStepShowsItsMessageAndRefusesMore();
     void manualEntryShowsPointsThenThePentagon();
+    void clearWhileEnteringStartsTheEntryAgain();
+    void toleranceAfterRegularBuildsTheDefaultShape();
+    void timerDrivesTheAnimationEvery400ms();
     void dragZoomsAndRightClickRefits();
     void labelsAndGridLines();
+    void xGridLinesRunThroughTheMiddleOfTheirLabels();
     void focusWindowShowsAndSetsTheRange();
     void filesThroughTheDialogs();
     void damagedConfigurationFilesChangeOnlyWhatTheyHold();
@@ -85,6 +136,8 @@ private:
     QStringList listedRow(PentagonMiniMap* history, int row) const;
     void clickListRow(PentagonMiniMap* history, int row, Qt::MouseButton button = Qt::LeftButton);
     void runAnimatedExample();
+    QPoint pixelAt(float x, float y) const;
+    void clickPoint(float x, float y);
 
     std::unique_ptr<MainWindow> window;
     std::unique_ptr<QTemporaryDir> folder;
@@ -175,6 +228,19 @@ void PentagonTabTest::runAnimatedExample()
     for (int tick = 0; tick < 10; ++tick) {
         scene->runningMan();
     }
+}
+
+// Where a point of the -1 .. 1 square that manual entry shows lies in the view.
+QPoint PentagonTabTest::pixelAt(float x, float y) const
+{
+    const QSize size = view->viewport()->size();
+    return QPoint(int(float(size.width()) * (x + 1.0f) / 2.0f),
+                  int(float(size.height()) * (1.0f - y) / 2.0f));
+}
+
+void PentagonTabTest::clickPoint(float x, float y)
+{
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, pixelAt(x, y));
 }
 
 void PentagonTabTest::panelStartsAsTheAnimatedExample()
@@ -341,19 +407,14 @@ void PentagonTabTest::failedStepShowsItsMessageAndRefusesMore()
 void PentagonTabTest::manualEntryShowsPointsThenThePentagon()
 {
     choose("pentagon_userInput");
-    const QSize size = view->viewport()->size();
-    const auto at = [size](float x, float y) {
-        return QPoint(int(float(size.width()) * (x + 1.0f) / 2.0f),
-                      int(float(size.height()) * (1.0f - y) / 2.0f));
-    };
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(-0.5f, -0.5f));
+    clickPoint(-0.5f, -0.5f);
     QCOMPARE(scene->engine().getUserPointCount(), 1);
     QImage frame = plot();
     QVERIFY(hasColor(frame, kInitialRed));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.5f, -0.5f));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.5f, 0.5f));
+    clickPoint(0.5f, -0.5f);
+    clickPoint(0.5f, 0.5f);
     // Inside the triangle so far: refused.
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.2f, -0.2f));
+    clickPoint(0.2f, -0.2f);
     QCOMPARE(scene->engine().getUserPointCount(), 3);
     // In and Out wait for the fifth point.
     click("pentagon_In");
@@ -361,18 +422,123 @@ void PentagonTabTest::manualEntryShowsPointsThenThePentagon()
     QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("0"));
     frame = plot();
     // Points 1 to 3 in red, orange and green; no Point 4 blue, no line between the points.
-    QVERIFY(hasColor(frame, QColor(255, 165, 0)));
-    QVERIFY(hasColor(frame, QColor(0, 255, 0)));
+    QVERIFY(hasColor(frame, kPointOrange));
+    QVERIFY(hasColor(frame, kPointGreen));
     QVERIFY(!hasColor(frame, kNewestBlue));
-    const QPoint middle = (at(-0.5f, -0.5f) + at(0.5f, -0.5f)) / 2;
+    const QPoint middle = (pixelAt(-0.5f, -0.5f) + pixelAt(0.5f, -0.5f)) / 2;
     QCOMPARE(QColor(frame.pixel(middle)), QColor(Qt::white));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(0.0f, 0.8f));
-    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at(-0.5f, 0.5f));
+    clickPoint(0.0f, 0.8f);
+    clickPoint(-0.5f, 0.5f);
     QCOMPARE(scene->engine().getUserPointCount(), 5);
     QCOMPARE(scene->engine().getHistory().size(), 1u);
     click("pentagon_In");
     QCOMPARE(scene->engine().getHistory().size(), 2u);
     QVERIFY(hasColor(plot(), kNewestBlue));
+}
+
+// Clear while points are being entered throws them away: the entry starts again from none,
+// and the next five clicks alone make the pentagon.
+void PentagonTabTest::clearWhileEnteringStartsTheEntryAgain()
+{
+    choose("pentagon_userInput");
+    clickPoint(-0.5f, -0.5f);
+    clickPoint(0.5f, -0.5f);
+    clickPoint(0.5f, 0.5f);
+    QCOMPARE(scene->engine().getUserPointCount(), 3);
+    click("pentagon_clean");
+    QCOMPARE(scene->engine().getUserPointCount(), 0);
+    QVERIFY(scene->engine().getHistory().empty());
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("0"));
+    QCOMPARE(bitsOf(scene->range().xMin), bitsOf(-1.0f));
+    QCOMPARE(bitsOf(scene->range().yMax), bitsOf(1.0f));
+    // No point is shown and no pentagon is drawn.
+    const QImage frame = plot();
+    QVERIFY(!hasColor(frame, kInitialRed));
+    QVERIFY(!hasColor(frame, kPointOrange));
+    QVERIFY(!hasColor(frame, kPointGreen));
+
+    const std::pair<float, float> corners[] = {
+        {-0.25f, -0.75f}, {0.75f, -0.25f}, {0.5f, 0.5f}, {-0.25f, 0.75f}, {-0.75f, 0.0f}};
+    for (const auto& [x, y] : corners) {
+        clickPoint(x, y);
+    }
+    QCOMPARE(scene->engine().getUserPointCount(), 5);
+    QCOMPARE(scene->engine().getHistory().size(), 1u);
+    // Each point is its click read back from view pixels to -1 .. 1.
+    const float w = float(view->viewport()->width());
+    const float h = float(view->viewport()->height());
+    for (int point = 1; point <= 5; ++point) {
+        const QPoint pixel = pixelAt(corners[point - 1].first, corners[point - 1].second);
+        const float x = ((float(pixel.x()) - w * 0.5f) * 2.0f) / w;
+        const float y = ((h * 0.5f - float(pixel.y())) * 2.0f) / h;
+        QCOMPARE(bitsOf(scene->engine().getInitialPoints().x(point)), bitsOf(x));
+        QCOMPARE(bitsOf(scene->engine().getInitialPoints().y(point)), bitsOf(y));
+    }
+}
+
+// "Regular" belongs to the animated example: "Tolerance (epsilon)" builds the Default shape
+// (0,0), (0,1), (1,e), (e,1), (1,0) with e = 1 + epsilon, each epsilon rebuilds it and fits
+// the view to it, and back in the animation (Regular still chosen) the regular one returns.
+void PentagonTabTest::toleranceAfterRegularBuildsTheDefaultShape()
+{
+    choose("pentagon_animate_regular");
+    QCOMPARE(scene->engine().getInitialPoints().x(1), 1.0f);
+    const auto expectDefaultShape = [this](uint32_t e) {
+        const std::vector<uint32_t> expected = {0, 0, 0,           0x3F800000u, 0x3F800000u,
+                                                e, e, 0x3F800000u, 0x3F800000u, 0};
+        std::vector<uint32_t> shown;
+        for (const float coordinate : scene->engine().getInitialPoints().coordinates) {
+            shown.push_back(bitsOf(coordinate));
+        }
+        QCOMPARE(shown, expected);
+    };
+    choose("pentagon_autoInput");
+    // Epsilon 0.1 as before: e = single(1 + single(0.1)); the box 0 .. e, square and 10%
+    // larger, is -0.055 .. 1.155.
+    expectDefaultShape(0x3F8CCCCDu);
+    QCOMPARE(bitsOf(scene->range().xMin), 0xBD6147B0u);
+    QCOMPARE(bitsOf(scene->range().yMax), 0x3F93D70Au);
+    choose("pentagon_epsilon2");
+    // e = single(1 + single(0.05)) = 1.05; the view -0.0525 .. 1.1025.
+    expectDefaultShape(0x3F866666u);
+    QCOMPARE(bitsOf(scene->range().xMin), 0xBD570A40u);
+    QCOMPARE(bitsOf(scene->range().yMax), 0x3F8D1EB8u);
+    // The plot shows it: the red edge from (0, 0) to (0, 1) stands at x = 0.
+    const QImage frame = plot();
+    const int edge = int(float(frame.width()) * (0.0f - scene->range().xMin) /
+                         (scene->range().xMax - scene->range().xMin));
+    QVERIFY(hasColor(frame, kInitialRed, edge - 1, edge + 2));
+
+    choose("pentagon_animateInput");
+    QVERIFY(child<QRadioButton>("pentagon_animate_regular")->isChecked());
+    QCOMPARE(bitsOf(scene->engine().getInitialPoints().x(1)), 0x3F800000u);
+    QCOMPARE(bitsOf(scene->engine().getInitialPoints().y(2)), 0x3F737870u);
+}
+
+// The main window's timer ticks the animation every 400 ms, one step a tick once started.
+void PentagonTabTest::timerDrivesTheAnimationEvery400ms()
+{
+    // A window of its own, whose timer runs: the others' is stopped.
+    window = std::make_unique<MainWindow>();
+    view = qobject_cast<GraphicsView*>(showPlotTab(*window, 1, "pentagon_VisWindow"));
+    QVERIFY(view != nullptr);
+    scene = qobject_cast<PentagonOpenGLScene*>(view->scene());
+    auto* timer = window->findChild<QTimer*>(QStringLiteral("pentagon_timer"));
+    QVERIFY(timer != nullptr);
+    QVERIFY(timer->isActive());
+    QCOMPARE(timer->interval(), 400);
+    // Paused until Start.
+    QTest::qWait(900);
+    QCOMPARE(scene->engine().getNumIns(), 0);
+    click("pentagon_Default");
+    QTRY_COMPARE_WITH_TIMEOUT(scene->getAnimationStep(), 1, 2000);
+    QElapsedTimer clock;
+    clock.start();
+    QTRY_COMPARE_WITH_TIMEOUT(scene->getAnimationStep(), 3, 3000);
+    // Two more ticks, 800 ms less what the polling of the checks may miss.
+    QVERIFY2(clock.elapsed() >= 700, qPrintable(QString::number(clock.elapsed())));
+    QCOMPARE(scene->engine().getNumIns(), 3);
+    QCOMPARE(child<QLabel>("pentagon_Num_in")->text(), QStringLiteral("3"));
 }
 
 void PentagonTabTest::dragZoomsAndRightClickRefits()
@@ -384,16 +550,24 @@ void PentagonTabTest::dragZoomsAndRightClickRefits()
     QTest::mouseRelease(view->viewport(), Qt::LeftButton, {},
                         QPoint(size.width() / 2, size.height() / 2));
     QCOMPARE(scene->zoomDepth(), 1);
-    // The lower left quarter of the range.
-    QCOMPARE(scene->range().xMin, fitted.xMin);
-    QCOMPARE(scene->range().yMin, fitted.yMin);
-    QVERIFY(qAbs(scene->range().xMax - (fitted.xMin + fitted.xMax) / 2) < 1e-2f);
-    QVERIFY(qAbs(scene->range().yMax - (fitted.yMin + fitted.yMax) / 2) < 1e-2f);
+    // The lower left quarter of the range: the press corner is the range's own, the release
+    // corner the fractions w/2 / w across and (h - h/2) / h up, in single precision.
+    const float fx = float(size.width() / 2) / float(size.width());
+    const float fy = float(size.height() - size.height() / 2) / float(size.height());
+    QCOMPARE(bitsOf(scene->range().xMin), bitsOf(fitted.xMin));
+    QCOMPARE(bitsOf(scene->range().yMin), bitsOf(fitted.yMin));
+    QCOMPARE(bitsOf(scene->range().xMax), bitsOf(fitted.xMin + (fitted.xMax - fitted.xMin) * fx));
+    QCOMPARE(bitsOf(scene->range().yMax), bitsOf(fitted.yMin + (fitted.yMax - fitted.yMin) * fy));
     QTest::mouseClick(view->viewport(), Qt::RightButton, {}, QPoint(10, 10));
     QCOMPARE(scene->zoomDepth(), 0);
-    // Refitted to the drawn pentagon: the same range as at the start.
-    QVERIFY(qAbs(scene->range().xMin - fitted.xMin) < 1e-6f);
-    QVERIFY(qAbs(scene->range().yMax - fitted.yMax) < 1e-6f);
+    // Refitted to the drawn pentagon, the Default one with epsilon 0.1: the same range as at
+    // the start, -0.055 .. 1.155 both ways.
+    for (const float bound : {fitted.xMin, scene->range().xMin, scene->range().yMin}) {
+        QCOMPARE(bitsOf(bound), 0xBD6147B0u);
+    }
+    for (const float bound : {fitted.xMax, scene->range().xMax, scene->range().yMax}) {
+        QCOMPARE(bitsOf(bound), 0x3F93D70Au);
+    }
 }
 
 void PentagonTabTest::labelsAndGridLines()
@@ -412,6 +586,62 @@ void PentagonTabTest::labelsAndGridLines()
     QVERIFY(!hasColor(before, QColor(Qt::darkMagenta)));
     child<QCheckBox>("pentagon_yaxis")->click();
     QVERIFY(hasColor(plot(), QColor(Qt::darkMagenta)));
+    child<QCheckBox>("pentagon_yaxis")->click();
+    QVERIFY(!hasColor(plot(), QColor(Qt::darkMagenta)));
+    child<QCheckBox>("pentagon_xaxis")->click();
+    // Vertical lines from top to bottom.
+    const QImage lines = plot();
+    QVERIFY(!columnRunMiddles(lines.copy(0, 0, lines.width(), 1), 0, isGridLine).isEmpty());
+    QCOMPARE(columnRunMiddles(lines.copy(0, 0, lines.width(), 1), 0, isGridLine),
+             columnRunMiddles(lines.copy(0, lines.height() - 1, lines.width(), 1), 0, isGridLine));
+}
+
+// With "Tolerance (epsilon)", each vertical grid line stands at its value's x plus half the
+// width of the value's "%.2e" label, and runs through the middle of that label, turned
+// upwards along the bottom: the student reads the line's own value.
+void PentagonTabTest::xGridLinesRunThroughTheMiddleOfTheirLabels()
+{
+    choose("pentagon_autoInput");
+    child<QCheckBox>("pentagon_xaxis")->click();
+    const QImage lines = plot();
+    const QList<double> linesAtTop =
+        columnRunMiddles(lines.copy(0, 0, lines.width(), 1), 0, isGridLine);
+    child<QCheckBox>("pentagon_xaxis")->click();
+    child<QCheckBox>("pentagon_xvalues")->click();
+    const QImage labels = plot();
+    // The labels are about 55 pixels long; nothing else in the bottom 100 rows is magenta.
+    const QList<double> labelMiddles = columnRunMiddles(labels, labels.height() - 100, isLabelInk);
+
+    // The 21 grid values from the range's middle in steps of a twentieth; the last line and
+    // label lie beyond the right edge.
+    const PentagonRange range = scene->range();
+    const QFontMetrics metrics(QFont(QStringLiteral("times"), 10, QFont::Bold));
+    QList<double> expected;
+    for (int i = 0; i <= 20; ++i) {
+        const float value =
+            (range.xMax - range.xMin) / 20.0f * float(i - 10) + (range.xMax + range.xMin) / 2.0f;
+        const float x =
+            float(lines.width()) * (value - range.xMin) / (range.xMax - range.xMin) +
+            float(metrics.horizontalAdvance(QString::asprintf("%.2e", double(value)))) / 2.0f;
+        if (x < float(lines.width())) {
+            expected << x;
+        }
+    }
+    QCOMPARE(expected.size(), 20);
+    QCOMPARE(linesAtTop.size(), expected.size());
+    QCOMPARE(labelMiddles.size(), expected.size());
+    // A one-pixel line drawn at a fractional x fills the pixel at or just left of it, and the
+    // smoothed text's faintest edges fall below the ink test: a pixel, or a pixel and a half
+    // between two middles, is the most that rounding to pixels explains.
+    for (int i = 0; i < expected.size(); ++i) {
+        const QString where = QStringLiteral("line %1 at %2, expected at %3, its label's middle %4")
+                                  .arg(i)
+                                  .arg(linesAtTop[i])
+                                  .arg(expected[i])
+                                  .arg(labelMiddles[i]);
+        QVERIFY2(qAbs(linesAtTop[i] - expected[i]) <= 1.0, qPrintable(where));
+        QVERIFY2(qAbs(linesAtTop[i] - labelMiddles[i]) <= 1.5, qPrintable(where));
+    }
 }
 
 // The fields show "-1.0" until the range is first fitted, then the fitted range with "%f";
