@@ -2,6 +2,11 @@
 
 set(QUILLON_XVFB_RUN xvfb-run -a -s "-screen 0 1280x1024x24")
 
+# The test programs that need no display (engine and command-line tests): the sanitizer build
+# builds only these ("cmake --build build-asan --target headless_tests"); GUI tests carry the
+# label "gui", so "ctest -LE gui" runs the rest.
+add_custom_target(headless_tests)
+
 # quillon_add_engine_test(NAME SOURCES ... ENGINES ...)
 # One GoogleTest program per optimisation variant, each linked to that variant of the engines.
 function(quillon_add_engine_test name)
@@ -16,6 +21,7 @@ function(quillon_add_engine_test name)
         quillon_target_defaults(${test_target})
         target_compile_options(${test_target} PRIVATE ${QUILLON_VARIANT_FLAGS_${variant}})
         add_test(NAME ${test_target} COMMAND ${test_target})
+        add_dependencies(headless_tests ${test_target})
     endforeach()
 endfunction()
 
@@ -44,5 +50,6 @@ function(quillon_add_gui_test_run test_name target environment)
     set_tests_properties(${test_name} PROPERTIES
         ENVIRONMENT "QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1;${environment}"
         RESOURCE_LOCK x_server
+        LABELS gui
         TIMEOUT 120)
 endfunction()
