@@ -45,10 +45,18 @@ function(quillon_add_gui_test name)
 endfunction()
 
 # quillon_add_gui_test_run(TEST_NAME TARGET ENVIRONMENT): one run of a GUI test program.
+# Each run starts with its own empty settings folder (XDG_CONFIG_HOME): Qt's file dialog keeps
+# the folders it visited in the user's settings, and a later dialog that looks into one of
+# them again can hang (one test saves to /proc, where reading /proc/kmsg as root blocks), so
+# nothing a test does may outlive its run or depend on the user's own settings.
 function(quillon_add_gui_test_run test_name target environment)
-    add_test(NAME ${test_name} COMMAND ${QUILLON_XVFB_RUN} $<TARGET_FILE:${target}>)
+    set(config_folder ${CMAKE_CURRENT_BINARY_DIR}/${test_name}-settings)
+    add_test(NAME ${test_name}
+        COMMAND sh -c "rm -rf \"$0\" && mkdir -p \"$0\" && exec \"$@\""
+                ${config_folder} ${QUILLON_XVFB_RUN} $<TARGET_FILE:${target}>)
     set_tests_properties(${test_name} PROPERTIES
-        ENVIRONMENT "QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1;${environment}"
+        ENVIRONMENT
+            "QT_QPA_PLATFORM=xcb;LIBGL_ALWAYS_SOFTWARE=1;XDG_CONFIG_HOME=${config_folder};${environment}"
         RESOURCE_LOCK x_server
         LABELS gui
         TIMEOUT 120)
