@@ -1,6 +1,11 @@
 # Engines are built once for the program and, when tests are on, once more per optimisation
 # variant, so that the engine tests prove the results do not depend on compiler flags.
 set(QUILLON_ENGINE_VARIANTS O0 O3 native)
+# The sanitizer build looks for memory errors and undefined behaviour, not for results that
+# depend on flags: one variant is enough there.
+if(QUILLON_SANITIZE)
+    set(QUILLON_ENGINE_VARIANTS O3)
+endif()
 set(QUILLON_VARIANT_FLAGS_O0 -O0)
 set(QUILLON_VARIANT_FLAGS_O3 -O3)
 set(QUILLON_VARIANT_FLAGS_native -O3 -march=native)

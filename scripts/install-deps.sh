@@ -1,5 +1,7 @@
 #!/usr/bin/env bash
 # Installs the Debian packages Quillon needs to build, run and test, when any is missing.
+# clang-14 and libclang-rt-14-dev (the sanitizer runtimes and libFuzzer) build the sanitizer
+# build (scripts/sanitize.sh) and the fuzzers (scripts/fuzz.sh).
 set -euo pipefail
 
 packages=(
@@ -9,6 +11,7 @@ packages=(
     libgtest-dev libbenchmark-dev
     xvfb xauth fonts-liberation fontconfig locales
     clang-format valgrind
+    clang-14 libclang-rt-14-dev
 )
 
 missing=()

@@ -1,5 +1,6 @@
 #include "common/core/FieldValidation.h"
 #include "common/gui/FieldValidators.h"
+#include "tests/support/QtFieldState.h"
 
 #include <QDoubleValidator>
 #include <QIntValidator>
@@ -11,18 +12,6 @@ using quillon::FieldState;
 
 namespace
 {
-
-QValidator::State toQt(FieldState state)
-{
-    switch (state) {
-    case FieldState::Invalid:
-        return QValidator::Invalid;
-    case FieldState::Intermediate:
-        return QValidator::Intermediate;
-    default:
-        return QValidator::Acceptable;
-    }
-}
 
 // Hand-picked texts around every rule, plus random strings over the characters that matter.
 QStringList corpus()
@@ -149,7 +138,7 @@ void FieldValidationTest::decimalFieldsJudgeLikeTheirValidators()
         const FieldState ours =
             quillon::validateDecimalField(text.toStdString(), bottom, top, decimals);
         int position = 0;
-        QVERIFY2(validator->validate(text, position) == toQt(ours),
+        QVERIFY2(validator->validate(text, position) == qtFieldState(ours),
                  qPrintable(QStringLiteral("'%1'").arg(text)));
     }
 }
@@ -201,7 +190,7 @@ void FieldValidationTest::integerFieldsJudgeLikeTheirValidators()
     for (QString text : corpus()) {
         const FieldState ours = quillon::validateIntegerField(text.toStdString(), bottom, top);
         int position = 0;
-        QVERIFY2(validator->validate(text, position) == toQt(ours),
+        QVERIFY2(validator->validate(text, position) == qtFieldState(ours),
                  qPrintable(QStringLiteral("'%1'").arg(text)));
     }
 }
