@@ -280,25 +280,17 @@ void AssoOpenGLScene::refreshFocusWindow()
 
 void AssoOpenGLScene::setStartpoint(int value)
 {
-    if (moveWindowStart(value)) {
-        refreshFocusWindow();
-        repaint();
-    }
+    moveWindowStart(value);
 }
 
 void AssoOpenGLScene::setEndpoint(int value)
 {
-    if (moveWindowEnd(value)) {
-        refreshFocusWindow();
-        repaint();
-    }
+    moveWindowEnd(value);
 }
 
 void AssoOpenGLScene::setStepsize(int value)
 {
     setWindowStep(value);
-    refreshFocusWindow();
-    repaint();
 }
 
 void AssoOpenGLScene::resetXY()

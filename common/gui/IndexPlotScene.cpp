@@ -59,19 +59,30 @@ void IndexPlotScene::setViewOption(bool& option, bool value)
 
 // ---- the X window -------------------------------------------------------------------------
 
-bool IndexPlotScene::moveWindowStart(int value)
+void IndexPlotScene::moveWindowStart(int value)
 {
-    return plotMoveStart(window, value, N, isFixingNodeCount());
+    if (plotMoveStart(window, value, N, isFixingNodeCount())) {
+        showWindowMove();
+    }
 }
 
-bool IndexPlotScene::moveWindowEnd(int value)
+void IndexPlotScene::moveWindowEnd(int value)
 {
-    return plotMoveEnd(window, value, isFixingNodeCount());
+    if (plotMoveEnd(window, value, isFixingNodeCount())) {
+        showWindowMove();
+    }
 }
 
 void IndexPlotScene::setWindowStep(int value)
 {
     window.step = std::max(value, 1);
+    showWindowMove();
+}
+
+void IndexPlotScene::showWindowMove()
+{
+    refreshFocusWindow();
+    repaint();
 }
 
 bool IndexPlotScene::moveWindowToTime(int value)

@@ -50,9 +50,10 @@ protected:
     // Sets a view option and repaints.
     void setViewOption(bool& option, bool value);
 
-    // Moves of the X window; each returns whether the window changed.
-    bool moveWindowStart(int value);
-    bool moveWindowEnd(int value);
+    // The focus window's moves of the X window; a move that changes it shows the change there
+    // and in the plot.
+    void moveWindowStart(int value);
+    void moveWindowEnd(int value);
     // A step below 1 would make the displayed-index test divide by zero; the focus window's
     // slider starts at 1, so only a programmatic call can ask for it.
     void setWindowStep(int value);
@@ -129,6 +130,9 @@ protected:
     QImage uncheckedImage;
     // Index labels are the same on every frame; painting is const, the cache is not.
     mutable IndexLabels indexLabels;
+
+private:
+    void showWindowMove();
 };
 
 } // namespace quillon

@@ -354,25 +354,17 @@ void SineOpenGLScene::need2ShowLabels(bool show)
 
 void SineOpenGLScene::setStartpoint(int value)
 {
-    if (moveWindowStart(value)) {
-        refreshFocusWindow();
-        repaint();
-    }
+    moveWindowStart(value);
 }
 
 void SineOpenGLScene::setEndpoint(int value)
 {
-    if (moveWindowEnd(value)) {
-        refreshFocusWindow();
-        repaint();
-    }
+    moveWindowEnd(value);
 }
 
 void SineOpenGLScene::setStepsize(int value)
 {
     setWindowStep(value);
-    refreshFocusWindow();
-    repaint();
 }
 
 void SineOpenGLScene::setLowerRange(int value)
