@@ -305,14 +305,12 @@ void AssoOpenGLScene::resetXY()
 
 void AssoOpenGLScene::accelerate()
 {
-    ++speed;
-    speedAdjust();
+    changeSpeed(1);
 }
 
 void AssoOpenGLScene::decelerate()
 {
-    --speed;
-    speedAdjust();
+    changeSpeed(-1);
 }
 
 void AssoOpenGLScene::speedAdjust()

@@ -156,6 +156,12 @@ void IndexPlotScene::applySpeed()
     repaint();
 }
 
+void IndexPlotScene::changeSpeed(int levels)
+{
+    speed += levels;
+    applySpeed();
+}
+
 void IndexPlotScene::togglePause()
 {
     setPaused(!isPaused());

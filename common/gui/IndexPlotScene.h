@@ -77,6 +77,8 @@ protected:
     void refreshTimeLabels();
     // Clamps the speed level, sets the buttons and the timer's interval for it, repaints.
     void applySpeed();
+    // One level faster (1) or slower (-1), then applySpeed().
+    void changeSpeed(int levels);
     // Pauses or resumes, and names what the pause button does next.
     void togglePause();
 

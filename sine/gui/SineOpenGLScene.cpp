@@ -423,14 +423,12 @@ void SineOpenGLScene::refreshStatusWindow()
 
 void SineOpenGLScene::accelerate()
 {
-    ++speed;
-    speedAdjust();
+    changeSpeed(1);
 }
 
 void SineOpenGLScene::decelerate()
 {
-    --speed;
-    speedAdjust();
+    changeSpeed(-1);
 }
 
 void SineOpenGLScene::speedAdjust()
