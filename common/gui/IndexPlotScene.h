@@ -20,8 +20,8 @@ class PlotFocusWindow;
 // through an animated X window of indices and a Y range. It holds that window, the range, the
 // view options both tabs offer, the pointer and its zoom stack, the speed level and the node
 // the inspector rings; it moves the window, animates it, maps indices and values to the view
-// and handles the mouse, asking the scene only for what is its own (its legend, what the
-// pointer shows, its focus window).
+// and handles the mouse, asking the scene only for what is its own (its overlays, its legend,
+// what the pointer shows, its click signal, its focus window).
 //
 // It declares no slots and no signals: each scene's slots keep their own order in its
 // meta-object and call the functions below.

@@ -13,7 +13,7 @@
 // The Associative Law and Sine plots, frame by frame, against stored pictures: the default
 // frame, a frame in the middle of the animation, one with error comparison, value labels and
 // both kinds of grid lines on, and the frames of a drag (rubber band, then the zoomed view)
-// and of a hover over the legend. A changed pixel fails; the frame drawn is saved beside the
+// and of a hover over the legend. A changed pixel fails; the frame drawn is saved in the
 // test's working folder so it can be looked at.
 //
 // QUILLON_WRITE_FRAME_PICTURES=1 stores the frames drawn now as the new pictures instead (and
