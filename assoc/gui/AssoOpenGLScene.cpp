@@ -2,7 +2,6 @@
 
 #include "assoc/gui/AssoFocusWindow.h"
 #include "assoc/gui/AssoSelectionWindow.h"
-#include "common/core/AnimationSpeed.h"
 #include "common/core/CFormat.h"
 #include "common/gui/FieldValidators.h"
 #include "common/gui/FileRoutines.h"
@@ -12,13 +11,8 @@
 #include "common/gui/QtColor.h"
 
 #include <GL/gl.h>
-#include <QGraphicsSceneMouseEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
-#include <QPushButton>
-#include <QSlider>
-#include <QTimer>
 #include <algorithm>
 #include <cmath>
 
@@ -47,16 +41,19 @@ const char* screenWord(int32_t code)
 } // namespace
 
 AssoOpenGLScene::AssoOpenGLScene(const AssoPanel& panel, QObject* parent)
-    : OpenGLPlotScene(parent), panel(panel), indexLabels(quillon::plotOverlayFont())
+    : IndexPlotScene(panel, parent), panel(panel)
 {
     colours = {{{128, 0, 128}, {0, 128, 128}, {255, 69, 0}, {128, 128, 0}, {0, 255, 0}}};
     for (int k = 0; k < kAssoOrderCount; ++k) {
         formulaImages[k] = quillon::loadImage(QStringLiteral("func%1.png").arg(k + 1));
     }
-    checkedImage = quillon::loadImage(QStringLiteral("c.png"));
-    uncheckedImage = quillon::loadImage(QStringLiteral("u.png"));
-    errorImage = quillon::loadImage(QStringLiteral("error.png"));
     computeSequences();
+}
+
+void AssoOpenGLScene::setFocusWindow(AssoFocusWindow* window)
+{
+    focusWindow = window;
+    watchFocusWindow(window);
 }
 
 void AssoOpenGLScene::setColor(int order, const quillon::ColorTriple& color)
@@ -88,17 +85,13 @@ void AssoOpenGLScene::refreshPanel()
 void AssoOpenGLScene::setUpPanel()
 {
     refreshPanel();
-    const QSignalBlocker blocker(panel.timeSlider);
-    panel.timeSlider->setRange(0, N - 20 * window.step - 1);
-    setTimeLabels();
+    setUpTimeSlider();
     speedAdjust();
 }
 
 void AssoOpenGLScene::shiftWindowBack()
 {
-    window.end -= window.start;
-    window.start = 0;
-    window.animationPosition = 0;
+    rewindWindow();
     refreshFocusWindow();
 }
 
@@ -123,9 +116,7 @@ void AssoOpenGLScene::updateMaxItera()
     N = panel.iterations->text().toInt();
     computeSequences();
     refreshPanel();
-    const QSignalBlocker blocker(panel.timeSlider);
-    panel.timeSlider->setMaximum(N - 20 * window.step - 1);
-    panel.timeEnd->setText(qformat(cformat("%d", N - 20 * window.step - 1)));
+    refreshTimeSliderEnd();
     panel.mainWindow->update();
     shiftWindowBack();
     repaint();
@@ -254,40 +245,30 @@ void AssoOpenGLScene::setBaseFunc5(bool chosen)
 
 void AssoOpenGLScene::setNeedXAxis(bool need)
 {
-    needXAxis = need;
-    repaint();
+    setViewOption(needXAxis, need);
 }
 
 void AssoOpenGLScene::setNeedYAxis(bool need)
 {
-    needYAxis = need;
-    repaint();
+    setViewOption(needYAxis, need);
 }
 
 void AssoOpenGLScene::need2ShowXIndices(bool show)
 {
-    showXIndices = show;
-    repaint();
+    setViewOption(showXIndices, show);
 }
 
 void AssoOpenGLScene::need2ShowYIndices(bool show)
 {
-    showYIndices = show;
-    repaint();
+    setViewOption(showYIndices, show);
 }
 
 void AssoOpenGLScene::need2ShowLabels(bool show)
 {
-    showLabels = show;
-    repaint();
+    setViewOption(showLabels, show);
 }
 
 // ---- the X window -------------------------------------------------------------------------
-
-bool AssoOpenGLScene::isFixingNodeCount() const
-{
-    return focusWindow != nullptr && focusWindow->fixesNodeCount();
-}
 
 void AssoOpenGLScene::refreshFocusWindow()
 {
@@ -299,34 +280,22 @@ void AssoOpenGLScene::refreshFocusWindow()
 
 void AssoOpenGLScene::setStartpoint(int value)
 {
-    if (quillon::plotMoveStart(window, value, N, isFixingNodeCount())) {
-        refreshFocusWindow();
-        repaint();
-    }
+    moveWindowStart(value);
 }
 
 void AssoOpenGLScene::setEndpoint(int value)
 {
-    if (quillon::plotMoveEnd(window, value, isFixingNodeCount())) {
-        refreshFocusWindow();
-        repaint();
-    }
+    moveWindowEnd(value);
 }
 
 void AssoOpenGLScene::setStepsize(int value)
 {
-    // A step below 1 would make the displayed-node test divide by zero; the focus window's
-    // slider starts at 1, so only a programmatic call can ask for it.
-    window.step = std::max(value, 1);
-    refreshFocusWindow();
-    repaint();
+    setWindowStep(value);
 }
 
 void AssoOpenGLScene::resetXY()
 {
-    window.step = 1;
-    window.end -= window.start;
-    window.start = 0;
+    resetWindow();
     repaint();
     fitYRange();
     refreshFocusWindow();
@@ -336,34 +305,22 @@ void AssoOpenGLScene::resetXY()
 
 void AssoOpenGLScene::accelerate()
 {
-    ++speed;
-    speedAdjust();
+    changeSpeed(1);
 }
 
 void AssoOpenGLScene::decelerate()
 {
-    --speed;
-    speedAdjust();
+    changeSpeed(-1);
 }
 
 void AssoOpenGLScene::speedAdjust()
 {
-    quillon::applySpeedLevel(speed, minSpeed, maxSpeed, panel.accelerate, panel.decelerate,
-                             panel.timer);
-    repaint();
+    applySpeed();
 }
 
 void AssoOpenGLScene::pause()
 {
-    setPaused(!isPaused());
-    panel.pause->setText(isPaused() ? QStringLiteral("Resume") : QStringLiteral("Pause"));
-}
-
-void AssoOpenGLScene::setTimeLabels()
-{
-    panel.timeValue->setText(qformat(cformat("%d", window.start)));
-    panel.timeStart->setText(qformat(cformat("%d", 0)));
-    panel.timeEnd->setText(qformat(cformat("%d", N - 20 * window.step - 1)));
+    togglePause();
 }
 
 void AssoOpenGLScene::runningMan()
@@ -371,15 +328,9 @@ void AssoOpenGLScene::runningMan()
     if (isPaused()) {
         return;
     }
-    if (window.end + window.step < N) {
-        if (window.slideInDone()) {
-            window.start += window.step;
-            window.end += window.step;
-        } else {
-            ++window.animationPosition;
-        }
+    if (advanceWindow()) {
         refreshFocusWindow();
-        setTimeLabels();
+        refreshTimeLabels();
         panel.mainWindow->update();
         repaint();
     }
@@ -389,16 +340,11 @@ void AssoOpenGLScene::runningMan()
 
 void AssoOpenGLScene::setTimeStartpoint(int value)
 {
-    window.animationPosition = 20;
-    if (window.end - window.start + value > N - 1) {
+    if (!moveWindowToTime(value)) {
         return;
     }
-    if (isFixingNodeCount()) {
-        window.end += value - window.start;
-    }
-    window.start = value;
     refreshFocusWindow();
-    setTimeLabels();
+    refreshTimeLabels();
     panel.mainWindow->update();
     repaint();
 }
@@ -408,26 +354,6 @@ void AssoOpenGLScene::setTimeStartpoint(int value)
 AssoPlotContent AssoOpenGLScene::plotContent() const
 {
     return {&results, needFunc, compare, baseFunc, N};
-}
-
-float AssoOpenGLScene::nodeX(int n) const
-{
-    return quillon::plotNodeX(window, n, xMin, xMax);
-}
-
-float AssoOpenGLScene::nodePixelX(int n) const
-{
-    return float(viewWidth) * (nodeX(n) - xMin) / (xMax - xMin);
-}
-
-float AssoOpenGLScene::valuePixelY(float value) const
-{
-    return float(viewHeight) * (yMax - value) / (yMax - yMin);
-}
-
-float AssoOpenGLScene::gridValue(int i) const
-{
-    return quillon::plotGridValue(i, yMin, yMax);
 }
 
 void AssoOpenGLScene::fitYRange()
@@ -442,11 +368,6 @@ void AssoOpenGLScene::fitYRange()
     }
     refreshFocusWindow();
     repaint();
-}
-
-QRectF AssoOpenGLScene::errorIconRect(int n) const
-{
-    return quillon::plotErrorIconRect(nodePixelX(n), viewWidth, viewHeight);
 }
 
 bool AssoOpenGLScene::mouseOnErrorIcon() const
@@ -472,61 +393,32 @@ bool AssoOpenGLScene::mouseOnErrorIcon() const
 
 // ---- mouse --------------------------------------------------------------------------------
 
-void AssoOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
+// A press on a legend row toggles that order. The row is the one under the pointer where it
+// last moved to.
+bool AssoOpenGLScene::pressLegend(float, float)
 {
-    QGraphicsScene::mousePressEvent(event);
-    if (event->isAccepted()) {
-        return;
+    const int row = quillon::plotLegendRowAt(mouse.y(), viewHeight);
+    if (row < 0 || row >= kAssoOrderCount) {
+        return false;
     }
-    if (event->button() == Qt::LeftButton) {
-        mouse.press(float(event->scenePos().x()), float(event->scenePos().y()));
-        pressHitLegend = false;
-        if (showLabels) {
-            const int row = quillon::plotLegendRowAt(mouse.y(), viewHeight);
-            if (row >= 0 && row < kAssoOrderCount) {
-                pressHitLegend = true;
-                needFunc[row] = !needFunc[row];
-                syncSelectionWindow();
-                repaint();
-            }
-        }
-    }
-    event->accept();
+    needFunc[row] = !needFunc[row];
+    syncSelectionWindow();
+    repaint();
+    return true;
 }
 
-void AssoOpenGLScene::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
+void AssoOpenGLScene::followPointer(QPointF position)
 {
-    QGraphicsScene::mouseMoveEvent(event);
-    if (event->isAccepted()) {
-        return;
-    }
-    mouse.moveTo(float(event->scenePos().x()), float(event->scenePos().y()));
+    mouse.moveTo(float(position.x()), float(position.y()));
     showErrorMessages = mouseOnErrorIcon();
     if (showLabels) {
         highlightedFunc = quillon::plotLegendRowAt(mouse.y(), viewHeight);
     }
-    repaint();
 }
 
-void AssoOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+void AssoOpenGLScene::announceClick(QPointF position)
 {
-    QGraphicsScene::mouseReleaseEvent(event);
-    if (event->isAccepted()) {
-        return;
-    }
-    const quillon::PlotMouse::View view{window, yMin, yMax, N, xMin, xMax, viewWidth, viewHeight};
-    const float x = float(event->scenePos().x());
-    const float y = float(event->scenePos().y());
-    const bool click =
-        event->button() == Qt::LeftButton && mouse.isClickAt(x, y) && !pressHitLegend;
-    if (mouse.release(event->button(), x, y, view)) {
-        refreshFocusWindow();
-    }
-    event->accept();
-    repaint();
-    if (click) {
-        emit plotClicked(event->scenePos());
-    }
+    emit plotClicked(position);
 }
 
 std::optional<quillon::PlotNode> AssoOpenGLScene::nodeNear(QPointF position, float radius) const
@@ -550,12 +442,6 @@ std::optional<quillon::PlotNode> AssoOpenGLScene::nodeNear(QPointF position, flo
     return quillon::nearestPlotNode(position, radius, kAssoOrderCount, drawn, pixel);
 }
 
-void AssoOpenGLScene::markNode(std::optional<quillon::PlotNode> node)
-{
-    markedNode = node;
-    repaint();
-}
-
 // ---- background ---------------------------------------------------------------------------
 
 void AssoOpenGLScene::drawBackground(QPainter* painter, const QRectF&)
@@ -564,32 +450,10 @@ void AssoOpenGLScene::drawBackground(QPainter* painter, const QRectF&)
     frame.clearToWhite();
     frame.lookAtOrthographic(-1.5, 1.5, yMin, yMax);
     glPushMatrix();
-    drawReferenceLines();
+    drawReferenceLines(gridDepth);
     drawCurves();
     glPopMatrix();
     glDisable(GL_DEPTH_TEST);
-}
-
-void AssoOpenGLScene::drawReferenceLines() const
-{
-    glPushAttrib(GL_ENABLE_BIT);
-    glColor3f(gridColor[0], gridColor[1], gridColor[2]);
-    glLineWidth(float(gridLineWidth));
-    glLineStipple(1, 0xAAAA);
-    glEnable(GL_LINE_STIPPLE);
-    glBegin(GL_LINES);
-    for (float y : {-1.0f, 1.0f, 0.0f}) {
-        glVertex3f(xMin, y, gridDepth);
-        glVertex3f(xMax, y, gridDepth);
-    }
-    if (needYAxis) {
-        for (int i = 0; i < quillon::kPlotGridLines; ++i) {
-            glVertex3f(xMin, gridValue(i), gridDepth);
-            glVertex3f(xMax, gridValue(i), gridDepth);
-        }
-    }
-    glEnd();
-    glPopAttrib();
 }
 
 void AssoOpenGLScene::drawCurves() const
@@ -634,12 +498,8 @@ void AssoOpenGLScene::drawNodeMark(QPainter* painter) const
     }
 }
 
-void AssoOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
+void AssoOpenGLScene::paintOverlays(QPainter* painter)
 {
-    viewWidth = int(rect.width());
-    viewHeight = int(rect.height());
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, false);
     if (showXIndices) {
         drawXIndices(painter);
     }
@@ -662,7 +522,6 @@ void AssoOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
     }
     drawSpreadReadout(painter);
     drawNodeMark(painter);
-    painter->restore();
 }
 
 bool AssoOpenGLScene::XIndexLayerKey::operator==(const XIndexLayerKey& other) const

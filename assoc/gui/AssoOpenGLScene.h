@@ -4,10 +4,7 @@
 #include "assoc/engine/AssoPlotGeometry.h"
 #include "assoc/engine/AssoRecurrence.h"
 #include "assoc/gui/AssoPanel.h"
-#include "common/gui/IndexLabels.h"
-#include "common/gui/OpenGLPlotScene.h"
-#include "common/gui/PlotMouse.h"
-#include "common/gui/PlotNodePick.h"
+#include "common/gui/IndexPlotScene.h"
 
 #include <QImage>
 #include <QString>
@@ -23,8 +20,9 @@ class QPainter;
 // animation state of the module, the five sequences the engine computes from them, the
 // OpenGL background (reference lines and curves) and the painter foreground (labels, error
 // icons and messages, rubber band, legend, spread readout). The panel and the tool windows
-// change it only through its slots.
-class AssoOpenGLScene : public quillon::OpenGLPlotScene
+// change it only through its slots. The X window, the Y range, the view options, the mouse and
+// the animation controls are the common plot scene's.
+class AssoOpenGLScene : public quillon::IndexPlotScene
 {
     Q_OBJECT
 
@@ -35,7 +33,7 @@ public:
     void setUpPanel();
 
     void setSelectionWindow(AssoSelectionWindow* window) { selectionWindow = window; }
-    void setFocusWindow(AssoFocusWindow* window) { focusWindow = window; }
+    void setFocusWindow(AssoFocusWindow* window);
 
     // State the tool windows, the exports and the tests read.
     float getYMin() const { return yMin; }
@@ -43,25 +41,18 @@ public:
     float getR() const { return R; }
     float getX0() const { return X0; }
     int getN() const { return N; }
-    const quillon::PlotXWindow& xWindow() const { return window; }
     const AssoSequences& sequences() const { return results; }
     const AssoColors& colors() const { return colours; }
     void setColor(int order, const quillon::ColorTriple& color);
     bool isFuncNeeded(int order) const { return needFunc[order]; }
     bool isComparing() const { return compare; }
     int baseFunction() const { return baseFunc; }
-    int speedLevel() const { return speed; }
     int highlightedFunction() const { return highlightedFunc; }
     bool showsErrorMessages() const { return showErrorMessages; }
-    int zoomDepth() const { return mouse.zoomDepth(); }
-    // The square of the error icon of iteration n in view pixels.
-    QRectF errorIconRect(int n) const;
 
     // The drawn node nearest a point of the view within `radius` pixels: curve = order,
     // index = iteration.
     std::optional<quillon::PlotNode> nodeNear(QPointF position, float radius) const;
-    // Rings one node of the plot (the one the inspector shows); none: no ring.
-    void markNode(std::optional<quillon::PlotNode> node);
 
     // The module's files; each returns why it failed (and then changed nothing), or "".
     QString saveColorFile(const QString& path) const;
@@ -112,30 +103,23 @@ public slots:
 
 protected:
     void drawBackground(QPainter* painter, const QRectF& rect) override;
-    void drawForeground(QPainter* painter, const QRectF& rect) override;
-    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
+    void paintOverlays(QPainter* painter) override;
+    void refreshFocusWindow() override;
+    bool pressLegend(float x, float y) override;
+    void followPointer(QPointF position) override;
+    void announceClick(QPointF position) override;
 
 private:
     void computeSequences();
     void refreshPanel();
     void shiftWindowBack();
-    void refreshFocusWindow();
     void syncSelectionWindow();
     void setNeedFunc(int order, bool need);
     void setBaseFunc(int order, bool chosen);
     void fitYRange();
-    void setTimeLabels();
-    bool isFixingNodeCount() const;
     AssoPlotContent plotContent() const;
-    float nodeX(int n) const;
-    float nodePixelX(int n) const;
-    float valuePixelY(float value) const;
-    float gridValue(int i) const;
     bool mouseOnErrorIcon() const;
 
-    void drawReferenceLines() const;
     void drawCurves() const;
     void drawXIndices(QPainter* painter) const;
     void paintXIndexLayer() const;
@@ -149,48 +133,22 @@ private:
 
     AssoSelectionWindow* selectionWindow = nullptr;
     AssoFocusWindow* focusWindow = nullptr;
-    float yMax = 1.5f;
-    float yMin = -1.5f;
-    float xMin = -1.5f;
-    float xMax = 1.5f;
     float X0 = 0.5f;
-    int N = 300;
     float R = 3.0f;
     AssoColors colours;
     std::array<bool, kAssoOrderCount> needFunc = {true, true, true, true, true};
-    quillon::PlotXWindow window;
-    int minSpeed = -5;
-    int maxSpeed = 5;
-    int speed = 0;
     bool compare = false;
     int baseFunc = 0;
-    bool needXAxis = false;
-    bool needYAxis = false;
-    bool showXIndices = true;
-    bool showYIndices = false;
-    bool showLabels = true;
     AssoPanel panel;
-    int viewWidth = 0;
-    int viewHeight = 0;
     AssoSequences results;
-    float gridColor[3] = {0.25f, 0.25f, 0.25f};
-    int gridLineWidth = 1;
     int curveWidthOffset = 2;
     bool showErrorMessages = false;
-    quillon::PlotMouse mouse;
     int highlightedFunc = -1;
-    bool pressHitLegend = false;
-    std::optional<quillon::PlotNode> markedNode;
     float highlightedDepth = 3.0f;
     float normalDepth = 2.0f;
     float gridDepth = 0.0f;
     float formulaAspect = 14.788462f;
     std::array<QImage, kAssoOrderCount> formulaImages;
-    QImage checkedImage;
-    QImage uncheckedImage;
-    QImage errorImage;
-    // Index labels are the same on every frame; painting is const, the cache is not.
-    mutable quillon::IndexLabels indexLabels;
     // The X index labels change only with the window and the view's size, yet a long window
     // has thousands of them: they are painted into an image once per change and the image is
     // drawn on every frame.

@@ -1,6 +1,5 @@
 #include "sine/gui/SineOpenGLScene.h"
 
-#include "common/core/AnimationSpeed.h"
 #include "common/core/CFormat.h"
 #include "common/gui/FieldValidators.h"
 #include "common/gui/FileRoutines.h"
@@ -17,13 +16,9 @@
 #include <GL/gl.h>
 #include <QCheckBox>
 #include <QGraphicsSceneHelpEvent>
-#include <QGraphicsSceneMouseEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
-#include <QSlider>
-#include <QTimer>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
@@ -78,7 +73,7 @@ void setGlColor(const quillon::ColorTriple& color)
 } // namespace
 
 SineOpenGLScene::SineOpenGLScene(const SinePanel& panel, QObject* parent)
-    : OpenGLPlotScene(parent), panel(panel), indexLabels(quillon::plotOverlayFont())
+    : IndexPlotScene(panel, parent), panel(panel)
 {
     colours = {{{0, 0, 0},
                 {255, 192, 203},
@@ -96,10 +91,13 @@ SineOpenGLScene::SineOpenGLScene(const SinePanel& panel, QObject* parent)
     for (int slot : {kLibrary, 1, 4, 10, 12}) {
         needed[slot] = true;
     }
-    errorImage = quillon::loadImage(QStringLiteral("error.png"));
-    checkedImage = quillon::loadImage(QStringLiteral("c.png"));
-    uncheckedImage = quillon::loadImage(QStringLiteral("u.png"));
     recompute();
+}
+
+void SineOpenGLScene::setFocusWindow(SineFocusWindow* window)
+{
+    focusWindow = window;
+    watchFocusWindow(window);
 }
 
 void SineOpenGLScene::setColor(int slot, const quillon::ColorTriple& color)
@@ -125,9 +123,7 @@ void SineOpenGLScene::setUpPanel()
         const QSignalBlocker blocker(box);
         box->setChecked(checked);
     }
-    const QSignalBlocker blocker(panel.timeSlider);
-    panel.timeSlider->setRange(0, N - 20 * window.step - 1);
-    refreshTimeLabels();
+    setUpTimeSlider();
     speedAdjust();
 }
 
@@ -143,9 +139,7 @@ void SineOpenGLScene::recompute()
 // nothing revealed, running.
 void SineOpenGLScene::restartAnimation()
 {
-    window.end -= window.start;
-    window.start = 0;
-    window.animationPosition = 0;
+    rewindWindow();
     setPaused(false);
     autoPaused = false;
     panel.pause->setText(QStringLiteral("Pause"));
@@ -153,18 +147,11 @@ void SineOpenGLScene::restartAnimation()
     repaint();
 }
 
-void SineOpenGLScene::refreshTimeSlider()
-{
-    const QSignalBlocker blocker(panel.timeSlider);
-    panel.timeSlider->setMaximum(N - 20 * window.step - 1);
-    panel.timeEnd->setText(qformat(cformat("%d", N - 20 * window.step - 1)));
-}
-
 void SineOpenGLScene::updateMaxItera()
 {
     N = panel.iterations->text().toInt();
     recompute();
-    refreshTimeSlider();
+    refreshTimeSliderEnd();
     restartAnimation();
 }
 
@@ -180,7 +167,7 @@ void SineOpenGLScene::calculate()
     X = panel.x->text().toInt();
     N = panel.iterations->text().toInt();
     recompute();
-    refreshTimeSlider();
+    refreshTimeSliderEnd();
     restartAnimation();
 }
 
@@ -189,7 +176,7 @@ void SineOpenGLScene::calculate()
 void SineOpenGLScene::updateYmin()
 {
     if (focusWindow != nullptr) {
-        takeFinite(yLow, focusWindow->yMinNumber());
+        takeFinite(yMin, focusWindow->yMinNumber());
     }
     repaint();
 }
@@ -197,7 +184,7 @@ void SineOpenGLScene::updateYmin()
 void SineOpenGLScene::updateYmax()
 {
     if (focusWindow != nullptr) {
-        takeFinite(yHigh, focusWindow->yMaxNumber());
+        takeFinite(yMax, focusWindow->yMaxNumber());
     }
     repaint();
 }
@@ -205,8 +192,8 @@ void SineOpenGLScene::updateYmax()
 void SineOpenGLScene::Yapply()
 {
     if (focusWindow != nullptr) {
-        takeFinite(yLow, focusWindow->yMinNumber());
-        takeFinite(yHigh, focusWindow->yMaxNumber());
+        takeFinite(yMin, focusWindow->yMinNumber());
+        takeFinite(yMax, focusWindow->yMaxNumber());
     }
     repaint();
 }
@@ -222,9 +209,9 @@ SinePlotContent SineOpenGLScene::plotContent() const
 
 void SineOpenGLScene::fitYRange()
 {
-    if (const auto range = sineFitYRange(plotContent(), window, N, xLeft, xRight)) {
-        yLow = range->first;
-        yHigh = range->second;
+    if (const auto range = sineFitYRange(plotContent(), window, N, xMin, xMax)) {
+        yMin = range->first;
+        yMax = range->second;
     }
     repaint();
 }
@@ -325,82 +312,59 @@ void SineOpenGLScene::allchoose()
 
 void SineOpenGLScene::needFinalError(bool need)
 {
-    finalError = need;
-    repaint();
+    setViewOption(finalError, need);
 }
 
 void SineOpenGLScene::setShowBoundary(bool show)
 {
-    showBoundary = show;
-    repaint();
+    setViewOption(showBoundary, show);
 }
 
 void SineOpenGLScene::setShowValues(bool show)
 {
-    showValues = show;
-    repaint();
+    setViewOption(showValues, show);
 }
 
 void SineOpenGLScene::setNeedXAxis(bool need)
 {
-    needXAxis = need;
-    repaint();
+    setViewOption(needXAxis, need);
 }
 
 void SineOpenGLScene::setNeedYAxis(bool need)
 {
-    needYAxis = need;
-    repaint();
+    setViewOption(needYAxis, need);
 }
 
 void SineOpenGLScene::need2ShowXIndices(bool show)
 {
-    showXIndices = show;
-    repaint();
+    setViewOption(showXIndices, show);
 }
 
 void SineOpenGLScene::need2ShowYIndices(bool show)
 {
-    showYIndices = show;
-    repaint();
+    setViewOption(showYIndices, show);
 }
 
 void SineOpenGLScene::need2ShowLabels(bool show)
 {
-    showLabels = show;
-    repaint();
+    setViewOption(showLabels, show);
 }
 
 // ---- the X window and the focus window's ranges -------------------------------------------
 
-bool SineOpenGLScene::isFixingNodeCount() const
-{
-    return focusWindow != nullptr && focusWindow->fixesNodeCount();
-}
-
 void SineOpenGLScene::setStartpoint(int value)
 {
-    if (quillon::plotMoveStart(window, value, N, isFixingNodeCount())) {
-        refreshFocusWindow();
-        repaint();
-    }
+    moveWindowStart(value);
 }
 
 void SineOpenGLScene::setEndpoint(int value)
 {
-    if (quillon::plotMoveEnd(window, value, isFixingNodeCount())) {
-        refreshFocusWindow();
-        repaint();
-    }
+    moveWindowEnd(value);
 }
 
 void SineOpenGLScene::setStepsize(int value)
 {
-    // A step below 1 would make the displayed-index test divide by zero; the focus window's
-    // slider starts at 1, so only a programmatic call can ask for it.
-    window.step = std::max(value, 1);
-    refreshFocusWindow();
-    repaint();
+    setWindowStep(value);
 }
 
 void SineOpenGLScene::setLowerRange(int value)
@@ -426,9 +390,7 @@ void SineOpenGLScene::setRangeStep(int value)
 
 void SineOpenGLScene::resetXY()
 {
-    window.step = 1;
-    window.end -= window.start;
-    window.start = 0;
+    resetWindow();
     fitYRange();
     refreshFocusWindow();
     repaint();
@@ -461,35 +423,23 @@ void SineOpenGLScene::refreshStatusWindow()
 
 void SineOpenGLScene::accelerate()
 {
-    ++speed;
-    speedAdjust();
+    changeSpeed(1);
 }
 
 void SineOpenGLScene::decelerate()
 {
-    --speed;
-    speedAdjust();
+    changeSpeed(-1);
 }
 
 void SineOpenGLScene::speedAdjust()
 {
-    quillon::applySpeedLevel(speed, quillon::kMinSpeedLevel, quillon::kMaxSpeedLevel,
-                             panel.accelerate, panel.decelerate, panel.timer);
-    repaint();
+    applySpeed();
 }
 
 void SineOpenGLScene::pause()
 {
     autoPaused = false;
-    setPaused(!isPaused());
-    panel.pause->setText(isPaused() ? QStringLiteral("Resume") : QStringLiteral("Pause"));
-}
-
-void SineOpenGLScene::refreshTimeLabels()
-{
-    panel.timeValue->setText(qformat(cformat("%d", window.start)));
-    panel.timeStart->setText(qformat(cformat("%d", 0)));
-    panel.timeEnd->setText(qformat(cformat("%d", N - 20 * window.step - 1)));
+    togglePause();
 }
 
 void SineOpenGLScene::runningMan()
@@ -504,15 +454,8 @@ void SineOpenGLScene::runningMan()
 
 void SineOpenGLScene::advanceOneStep()
 {
-    const int newEnd = window.end + window.step;
-    if (newEnd >= N) {
+    if (!advanceWindow()) {
         return;
-    }
-    if (window.slideInDone()) {
-        window.start += window.step;
-        window.end = newEnd;
-    } else {
-        ++window.animationPosition;
     }
     refreshFocusWindow();
     refreshTimeLabels();
@@ -522,7 +465,7 @@ void SineOpenGLScene::advanceOneStep()
 // The animation stops by itself where a selected series has just stopped.
 void SineOpenGLScene::pauseAtAnError()
 {
-    if (sineStoppedBeforeCurrent(plotContent(), window, N, xLeft, xRight)) {
+    if (sineStoppedBeforeCurrent(plotContent(), window, N, xMin, xMax)) {
         setPaused(true);
         autoPaused = true;
         panel.pause->setText(QStringLiteral("Resume"));
@@ -531,40 +474,15 @@ void SineOpenGLScene::pauseAtAnError()
 
 void SineOpenGLScene::setTimeStartpoint(int value)
 {
-    window.animationPosition = 20;
-    if (window.end - window.start + value > N - 1) {
+    if (!moveWindowToTime(value)) {
         return;
     }
-    if (isFixingNodeCount()) {
-        window.end += value - window.start;
-    }
-    window.start = value;
     refreshFocusWindow();
     refreshTimeLabels();
     repaint();
 }
 
 // ---- geometry -----------------------------------------------------------------------------
-
-float SineOpenGLScene::nodeX(int i) const
-{
-    return quillon::plotNodeX(window, i, xLeft, xRight);
-}
-
-float SineOpenGLScene::nodePixelX(int i) const
-{
-    return float(viewWidth) * (nodeX(i) - xLeft) / (xRight - xLeft);
-}
-
-float SineOpenGLScene::valuePixelY(float value) const
-{
-    return float(viewHeight) * (yHigh - value) / (yHigh - yLow);
-}
-
-float SineOpenGLScene::gridValue(int j) const
-{
-    return quillon::plotGridValue(j, yLow, yHigh);
-}
 
 int SineOpenGLScene::indexUnderCursor() const
 {
@@ -580,30 +498,10 @@ int SineOpenGLScene::indexUnderCursor() const
     return nearest;
 }
 
-QRectF SineOpenGLScene::errorIconRect(int i) const
-{
-    return quillon::plotErrorIconRect(nodePixelX(i), viewWidth, viewHeight);
-}
-
 // ---- mouse --------------------------------------------------------------------------------
 
-void SineOpenGLScene::mousePressEvent(QGraphicsSceneMouseEvent* event)
-{
-    QGraphicsScene::mousePressEvent(event);
-    if (event->isAccepted()) {
-        return;
-    }
-    if (event->button() == Qt::LeftButton) {
-        const float x = float(event->scenePos().x());
-        const float y = float(event->scenePos().y());
-        mouse.press(x, y);
-        pressHitLegend = showLabels && clickLegend(x, y);
-    }
-    event->accept();
-}
-
 // Toggles what a press on the legend hits; false when it hits nothing.
-bool SineOpenGLScene::clickLegend(float x, float y)
+bool SineOpenGLScene::pressLegend(float x, float y)
 {
     const SineLegendHit hit = sineLegendAt(x, y, viewWidth, viewHeight);
     switch (hit.kind) {
@@ -627,41 +525,19 @@ bool SineOpenGLScene::clickLegend(float x, float y)
     return true;
 }
 
-void SineOpenGLScene::mouseMoveEvent(QGraphicsSceneMouseEvent* event)
+// The pointer is kept in whole view pixels, where the error list and the legend look.
+void SineOpenGLScene::followPointer(QPointF position)
 {
-    QGraphicsScene::mouseMoveEvent(event);
-    if (event->isAccepted()) {
-        return;
-    }
-    mouse.moveTo(std::round(float(event->scenePos().x())),
-                 std::round(float(event->scenePos().y())));
+    mouse.moveTo(std::round(float(position.x())), std::round(float(position.y())));
     if (showLabels) {
         const SineLegendHit hit = sineLegendAt(mouse.x(), mouse.y(), viewWidth, viewHeight);
         hovered = hit.kind == SineLegendHit::Approach ? hit.approach + 1 : -1;
     }
-    repaint();
 }
 
-void SineOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
+void SineOpenGLScene::announceClick(QPointF position)
 {
-    QGraphicsScene::mouseReleaseEvent(event);
-    if (event->isAccepted()) {
-        return;
-    }
-    const quillon::PlotMouse::View view{window, yLow,   yHigh,     N,
-                                        xLeft,  xRight, viewWidth, viewHeight};
-    const float x = float(event->scenePos().x());
-    const float y = float(event->scenePos().y());
-    const bool click =
-        event->button() == Qt::LeftButton && mouse.isClickAt(x, y) && !pressHitLegend;
-    if (mouse.release(event->button(), x, y, view)) {
-        refreshFocusWindow();
-    }
-    event->accept();
-    repaint();
-    if (click) {
-        emit plotClicked(event->scenePos());
-    }
+    emit plotClicked(position);
 }
 
 std::optional<quillon::PlotNode> SineOpenGLScene::nodeNear(QPointF position, float radius) const
@@ -674,12 +550,6 @@ std::optional<quillon::PlotNode> SineOpenGLScene::nodeNear(QPointF position, flo
         return QPointF(nodePixelX(i), valuePixelY(*content.plotted(k, i)));
     };
     return quillon::nearestPlotNode(position, radius, kSineApproachCount, drawn, pixel);
-}
-
-void SineOpenGLScene::markNode(std::optional<quillon::PlotNode> node)
-{
-    markedNode = node;
-    repaint();
 }
 
 // A black ring around the node the inspector shows, while it is displayed.
@@ -703,8 +573,8 @@ void SineOpenGLScene::drawBackground(QPainter* painter, const QRectF&)
 {
     quillon::GlPlotFrame frame(painter);
     frame.clearToWhite();
-    frame.lookAtOrthographic(xLeft, xRight, yLow, yHigh);
-    drawGrid();
+    frame.lookAtOrthographic(xMin, xMax, yMin, yMax);
+    drawReferenceLines(kGridDepth);
     drawErrorMarkers();
     for (int slot = 1; slot <= kSineApproachCount; ++slot) {
         if (needed[slot]) {
@@ -712,28 +582,6 @@ void SineOpenGLScene::drawBackground(QPainter* painter, const QRectF&)
         }
     }
     drawLibraryLine();
-}
-
-void SineOpenGLScene::drawGrid() const
-{
-    glPushAttrib(GL_ENABLE_BIT | GL_LINE_BIT);
-    glColor3f(gridColor[0], gridColor[1], gridColor[2]);
-    glLineWidth(1.0f);
-    glLineStipple(1, 0xAAAA);
-    glEnable(GL_LINE_STIPPLE);
-    glBegin(GL_LINES);
-    for (float y : {-1.0f, 1.0f, 0.0f}) {
-        glVertex3f(xLeft, y, kGridDepth);
-        glVertex3f(xRight, y, kGridDepth);
-    }
-    if (needYAxis) {
-        for (int j = 0; j < quillon::kPlotGridLines; ++j) {
-            glVertex3f(xLeft, gridValue(j), kGridDepth);
-            glVertex3f(xRight, gridValue(j), kGridDepth);
-        }
-    }
-    glEnd();
-    glPopAttrib();
 }
 
 // A vertical line where each selected series stopped.
@@ -841,26 +689,22 @@ void SineOpenGLScene::drawLibraryLine() const
     setGlColor(colours[kLibrary]);
     glLineWidth(1.0f);
     glBegin(GL_LINES);
-    glVertex3f(xLeft, level, kLibraryDepth);
-    glVertex3f(xRight, level, kLibraryDepth);
+    glVertex3f(xMin, level, kLibraryDepth);
+    glVertex3f(xMax, level, kLibraryDepth);
     glEnd();
 }
 
 // ---- foreground ---------------------------------------------------------------------------
 
-void SineOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
+void SineOpenGLScene::paintOverlays(QPainter* painter)
 {
-    viewWidth = int(rect.width());
-    viewHeight = int(rect.height());
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing, false);
     painter->setFont(quillon::plotOverlayFont());
     drawErrorIcons(painter);
     if (showXIndices) {
         drawXIndices(painter);
     }
     if (showYIndices) {
-        quillon::drawPlotValueLabels(painter, yLow, yHigh, viewHeight);
+        quillon::drawPlotValueLabels(painter, yMin, yMax, viewHeight);
     }
     drawErrorList(painter);
     mouse.drawRubberBand(painter);
@@ -869,7 +713,6 @@ void SineOpenGLScene::drawForeground(QPainter* painter, const QRectF& rect)
     }
     drawLargestError(painter);
     drawNodeMark(painter);
-    painter->restore();
 }
 
 // The icon flashes with the ticks, and only once the window has slid in.
@@ -1024,7 +867,7 @@ void SineOpenGLScene::helpEvent(QGraphicsSceneHelpEvent* event)
 
 void SineOpenGLScene::drawLargestError(QPainter* painter) const
 {
-    const std::optional<float> largest = sineLargestError(plotContent(), window, N, xLeft, xRight);
+    const std::optional<float> largest = sineLargestError(plotContent(), window, N, xMin, xMax);
     if (!largest) {
         return;
     }

@@ -1,10 +1,6 @@
 #pragma once
 
-#include "common/core/PlotXWindow.h"
-#include "common/gui/IndexLabels.h"
-#include "common/gui/OpenGLPlotScene.h"
-#include "common/gui/PlotMouse.h"
-#include "common/gui/PlotNodePick.h"
+#include "common/gui/IndexPlotScene.h"
 #include "sine/engine/SineApproaches.h"
 #include "sine/engine/SineFiles.h"
 #include "sine/engine/SinePlotGeometry.h"
@@ -27,8 +23,9 @@ class QPainter;
 // indices; the OpenGL background (grid, error markers, trend envelopes, partial-sum curves,
 // drop lines and the library line) and the painter foreground (error icons, index and value
 // labels, the error list, the rubber band, the legend and the largest-error line). The panel
-// and the tool windows change it only through its slots.
-class SineOpenGLScene : public quillon::OpenGLPlotScene
+// and the tool windows change it only through its slots. The X window, the Y range, the view
+// options, the mouse and the animation controls are the common plot scene's.
+class SineOpenGLScene : public quillon::IndexPlotScene
 {
     Q_OBJECT
 
@@ -41,7 +38,7 @@ public:
     // Writes the inputs, their validators, the check boxes and the time slider into the panel.
     void setUpPanel();
     void setSelectionWindow(SineSelectionWindow* window) { selectionWindow = window; }
-    void setFocusWindow(SineFocusWindow* window) { focusWindow = window; }
+    void setFocusWindow(SineFocusWindow* window);
     void setStatusWindow(SineStatusWindow* window) { statusWindow = window; }
 
     // State the tool windows, the exports and the tests read.
@@ -54,24 +51,17 @@ public:
     bool isNeeded(int slot) const { return needed[slot]; }
     bool isComparingErrors() const { return errorComparison; }
     bool showsYValueLabels() const { return showYIndices; }
-    float getYLow() const { return yLow; }
-    float getYHigh() const { return yHigh; }
-    const quillon::PlotXWindow& xWindow() const { return window; }
+    float getYLow() const { return yMin; }
+    float getYHigh() const { return yMax; }
     int getLowerRange() const { return lowerRange; }
     int getUpperRange() const { return upperRange; }
     int getRangeStep() const { return rangeStep; }
-    int speedLevel() const { return speed; }
     bool isAutoPaused() const { return autoPaused; }
     int hoveredApproach() const { return hovered; }
-    int zoomDepth() const { return mouse.zoomDepth(); }
-    // The square of the error icon of index i in view pixels.
-    QRectF errorIconRect(int i) const;
 
     // The drawn node nearest a point of the view within `radius` pixels: curve = approach
     // (0 = Func1), index = term index.
     std::optional<quillon::PlotNode> nodeNear(QPointF position, float radius) const;
-    // Rings one node of the plot (the one the inspector shows); none: no ring.
-    void markNode(std::optional<quillon::PlotNode> node);
 
     // The module's files; each returns why it failed (and then changed nothing), or "".
     QString saveColorFile(const QString& path) const;
@@ -130,10 +120,11 @@ public slots:
 
 protected:
     void drawBackground(QPainter* painter, const QRectF& rect) override;
-    void drawForeground(QPainter* painter, const QRectF& rect) override;
-    void mousePressEvent(QGraphicsSceneMouseEvent* event) override;
-    void mouseMoveEvent(QGraphicsSceneMouseEvent* event) override;
-    void mouseReleaseEvent(QGraphicsSceneMouseEvent* event) override;
+    void paintOverlays(QPainter* painter) override;
+    void refreshFocusWindow() override;
+    bool pressLegend(float x, float y) override;
+    void followPointer(QPointF position) override;
+    void announceClick(QPointF position) override;
     // Over a legend entry whose name is shortened to fit its column, the full name.
     void helpEvent(QGraphicsSceneHelpEvent* event) override;
 
@@ -156,24 +147,15 @@ private:
     void setNeeded(int slot, bool need);
     void chooseAll(bool need);
     void fitYRange();
-    void refreshFocusWindow();
     void refreshSelectionWindow();
     void refreshStatusWindow();
-    void refreshTimeLabels();
     void advanceOneStep();
     void pauseAtAnError();
-    bool isFixingNodeCount() const;
     SinePlotContent plotContent() const;
-    float nodeX(int i) const;
-    float nodePixelX(int i) const;
-    float valuePixelY(float value) const;
-    float gridValue(int j) const;
     int indexUnderCursor() const;
     std::vector<int> plottedIndices(const SinePlotContent& content, int k) const;
-    bool clickLegend(float x, float y);
     std::optional<LegendEntry> legendEntryAt(QPointF position) const;
     void drawNodeMark(QPainter* painter) const;
-    void drawGrid() const;
     void drawErrorMarkers() const;
     void drawCurves(int slot) const;
     void drawTrendLines(const SinePlotContent& content, int k, const std::vector<int>& indices,
@@ -191,41 +173,18 @@ private:
     SineStatusWindow* statusWindow = nullptr;
 
     int X = 250;
-    int N = 300;
     SineResults computed;
     SineColors colours;
     std::array<bool, kSineApproachCount + 1> needed{};
     bool errorComparison = false;
     bool finalError = false;
-    quillon::PlotXWindow window;
     int lowerRange = -100;
     int upperRange = 100;
     int rangeStep = 10;
     bool showBoundary = true;
     bool showValues = true;
-    bool needXAxis = false;
-    bool needYAxis = false;
-    bool showXIndices = true;
-    bool showYIndices = false;
-    bool showLabels = true;
-    float xLeft = -1.5f;
-    float xRight = 1.5f;
-    float yLow = -1.5f;
-    float yHigh = 1.5f;
-    float gridColor[3] = {0.25f, 0.25f, 0.25f};
     int hovered = -1;
-    bool pressHitLegend = false;
-    std::optional<quillon::PlotNode> markedNode;
 
     bool autoPaused = false;
     bool blink = false;
-    int speed = 0;
-
-    int viewWidth = 0;
-    int viewHeight = 0;
-    quillon::PlotMouse mouse;
-    QImage errorImage;
-    QImage checkedImage;
-    QImage uncheckedImage;
-    mutable quillon::IndexLabels indexLabels;
 };

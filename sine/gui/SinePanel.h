@@ -1,18 +1,14 @@
 #pragma once
 
+#include "common/gui/PlotAnimationPanel.h"
+
 class QCheckBox;
-class QLabel;
 class QLineEdit;
-class QPushButton;
-class QSlider;
-class QTimer;
-class QWidget;
 
 // The sine tab's control panel as the scene reaches it: the widgets of the main window's form
 // (found by their object names on the tab's page) and the tab's animation timer, which the
 // main window owns.
-struct SinePanel {
-    QWidget* mainWindow = nullptr;
+struct SinePanel : quillon::PlotAnimationPanel {
     QLineEdit* iterations = nullptr;
     QLineEdit* x = nullptr;
     QPushButton* calculate = nullptr;
@@ -24,14 +20,6 @@ struct SinePanel {
     QCheckBox* showYIndices = nullptr;
     QCheckBox* showLabels = nullptr;
     QCheckBox* errorComparison = nullptr;
-    QPushButton* decelerate = nullptr;
-    QPushButton* accelerate = nullptr;
-    QPushButton* pause = nullptr;
-    QSlider* timeSlider = nullptr;
-    QLabel* timeStart = nullptr;
-    QLabel* timeValue = nullptr;
-    QLabel* timeEnd = nullptr;
-    QTimer* timer = nullptr;
 
     // The panel on `page`, the tab's page of the main window's form.
     static SinePanel find(QWidget* page, QTimer* timer);
