@@ -294,9 +294,9 @@ void AssoTabTest::dragZoomsAndRightClickUndoes()
     const QPoint press(qRound(width * 5.5 / 20), int(height * 0.2));
     const QPoint release(qRound(width * 15.5 / 20), int(height * 0.5));
     QWidget* viewport = view->viewport();
-    QTest::mouseMove(viewport, press);
+    movePointer(viewport, press);
     QTest::mousePress(viewport, Qt::LeftButton, {}, press);
-    QTest::mouseMove(viewport, release);
+    movePointer(viewport, release);
     QTest::mouseRelease(viewport, Qt::LeftButton, {}, release);
     QCOMPARE(scene->zoomDepth(), 2);
     QCOMPARE(scene->xWindow().start, before.start + 5);
@@ -325,7 +325,7 @@ void AssoTabTest::clickWithoutMovementDoesNotZoom()
 {
     QWidget* viewport = view->viewport();
     const quillon::PlotXWindow before = scene->xWindow();
-    QTest::mouseMove(viewport, viewPoint(0.4, 0.3));
+    movePointer(viewport, viewPoint(0.4, 0.3));
     QTest::mouseClick(viewport, Qt::LeftButton, {}, viewPoint(0.4, 0.3));
     QCOMPARE(scene->zoomDepth(), 0);
     QCOMPARE(scene->xWindow().end, before.end);
@@ -340,7 +340,7 @@ void AssoTabTest::legendClickTogglesACurve()
     const int h = view->height();
     const int rowHeight = int(std::floor(0.25 * h)) / 5;
     const QPoint onRow2(view->width() / 2, int(std::floor(0.75 * h)) + 2 * rowHeight + 2);
-    QTest::mouseMove(viewport, onRow2);
+    movePointer(viewport, onRow2);
     QTest::mouseClick(viewport, Qt::LeftButton, {}, onRow2);
     QVERIFY(!scene->isFuncNeeded(2));
     QVERIFY(!selection->orderCheckBox(2)->isChecked());
@@ -354,10 +354,10 @@ void AssoTabTest::legendHoverHighlights()
 {
     const int h = view->height();
     const int rowHeight = int(std::floor(0.25 * h)) / 5;
-    QTest::mouseMove(view->viewport(),
-                     QPoint(30, int(std::floor(0.75 * h)) + 4 * rowHeight + rowHeight / 2));
+    movePointer(view->viewport(),
+                QPoint(30, int(std::floor(0.75 * h)) + 4 * rowHeight + rowHeight / 2));
     QTRY_COMPARE(scene->highlightedFunction(), 4);
-    QTest::mouseMove(view->viewport(), QPoint(30, 10));
+    movePointer(view->viewport(), QPoint(30, 10));
     QTRY_COMPARE(scene->highlightedFunction(), -1);
 }
 
@@ -367,10 +367,10 @@ void AssoTabTest::errorIconHoverShowsMessages()
     typeAndEnter("associativelaw_X_input", QStringLiteral("10000"));
     QCOMPARE(scene->sequences().errors[0][3], int32_t(AssoOverflow));
     runUntil([this] { return scene->xWindow().slideInDone(); });
-    QTest::mouseMove(view->viewport(), QPoint(5, 5));
+    movePointer(view->viewport(), QPoint(5, 5));
     QTRY_VERIFY(!scene->showsErrorMessages());
     const QPointF icon = scene->errorIconRect(3).center();
-    QTest::mouseMove(view->viewport(), icon.toPoint());
+    movePointer(view->viewport(), icon.toPoint());
     QTRY_VERIFY(scene->showsErrorMessages());
     QVERIFY(hasColor(grabPlot(), QColor(255, 0, 0)));
 }
@@ -435,21 +435,21 @@ void AssoTabTest::errorIconsFollowTheNextOrdersFlag()
     const QPoint icon = scene->errorIconRect(37).center().toPoint();
     QVERIFY(view->rect().contains(icon));
     const QPoint away(5, 5);
-    QTest::mouseMove(view->viewport(), away);
+    movePointer(view->viewport(), away);
     QTRY_VERIFY(!scene->showsErrorMessages());
-    QTest::mouseMove(view->viewport(), icon);
+    movePointer(view->viewport(), icon);
     QTRY_VERIFY(scene->showsErrorMessages());
     // Order 1's icons hang on order 2's flag: with order 2 off there is no icon to hover.
     scene->needFunc1(false);
-    QTest::mouseMove(view->viewport(), away);
-    QTest::mouseMove(view->viewport(), icon);
+    movePointer(view->viewport(), away);
+    movePointer(view->viewport(), icon);
     QTest::qWait(50);
     QVERIFY(!scene->showsErrorMessages());
     // Turning order 1 itself off does not hide its icons.
     scene->needFunc1(true);
     scene->needFunc0(false);
-    QTest::mouseMove(view->viewport(), away);
-    QTest::mouseMove(view->viewport(), icon);
+    movePointer(view->viewport(), away);
+    movePointer(view->viewport(), icon);
     QTRY_VERIFY(scene->showsErrorMessages());
 }
 
@@ -967,7 +967,7 @@ void AssoTabTest::errorMessagesAreMeasuredWithGetAndDrawnWithGets()
     runUntil([this] { return scene->xWindow().slideInDone(); });
     QVERIFY(scene->sequences().errors[0][3] != AssoOk);
     const QPoint icon = scene->errorIconRect(3).center().toPoint();
-    QTest::mouseMove(view->viewport(), icon);
+    movePointer(view->viewport(), icon);
     QTRY_VERIFY(scene->showsErrorMessages());
 
     const char* const words[] = {"", "Underflow", "Overflow", "NAN"};

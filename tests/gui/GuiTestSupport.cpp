@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QColor>
+#include <QCursor>
 #include <QGraphicsView>
 #include <QImage>
 #include <QLineEdit>
@@ -14,6 +15,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 
 QAction* menuBarAction(QMainWindow& window, const QString& menuTitle, const QString& actionText)
@@ -84,6 +86,15 @@ bool hasColor(const QImage& image, const QColor& color, int fromX, int toX)
         }
     }
     return false;
+}
+
+void movePointer(QWidget* widget, const QPoint& pos)
+{
+    // The server's pointer goes to the same place, so that its late motion event repeats the
+    // position instead of taking it back.
+    QCursor::setPos(widget->mapToGlobal(pos));
+    QWidget* topLevel = widget->window();
+    QTest::mouseMove(topLevel->windowHandle(), widget->mapTo(topLevel, pos));
 }
 
 void clickIndicator(QAbstractButton* button)

@@ -10,6 +10,7 @@ class QGraphicsView;
 class QImage;
 class QLineEdit;
 class QMainWindow;
+class QPoint;
 class QWidget;
 
 // The action titled `actionText` in the menu titled `menuTitle` of the window's menu bar as
@@ -30,6 +31,11 @@ void answerNextModalDialog(std::function<void(QWidget*)> answer);
 // -1: the right edge). Plots are drawn without smoothing, so a curve's pixels have its exact
 // colour.
 bool hasColor(const QImage& image, const QColor& color, int fromX = 0, int toX = -1);
+
+// Moves the pointer to `pos` in the widget and delivers the move before it returns.
+// QTest::mouseMove only asks the X server to move its pointer; the server's motion event can
+// come back after the next click, which then lands where the pointer was before.
+void movePointer(QWidget* widget, const QPoint& pos);
 
 // Clicks a check box or radio button on its indicator, where a person clicks it (a click far
 // right of a wide button's text does nothing).
