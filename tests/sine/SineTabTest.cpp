@@ -455,23 +455,39 @@ void SineTabTest::animationPausesItselfWhereASeriesStops()
     QCOMPARE(scene->xWindow().animationPosition, revealed);
 }
 
+// The plot spans world x -1.5..1.5 over the view, with node i of the window 0..20 at
+// -1.5 + i * 0.15; a drag takes the nearest nodes as the window's ends and the dragged
+// heights as its Y range.
 void SineTabTest::dragZoomsAndRightClickUndoes()
 {
     tickUntil([this] { return scene->xWindow().slideInDone(); });
+    QCOMPARE(scene->xWindow().start, 0);
+    QCOMPARE(scene->xWindow().end, 20);
     const float yLow = scene->getYLow();
-    QTest::mousePress(view->viewport(), Qt::LeftButton, {},
-                      QPoint(view->width() / 4, view->height() / 8));
-    QTest::mouseMove(view->viewport(), QPoint(view->width() * 3 / 4, view->height() / 2));
-    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {},
-                        QPoint(view->width() * 3 / 4, view->height() / 2));
+    const float yHigh = scene->getYHigh();
+    const int width = view->width();
+    const int height = view->height();
+    const QPoint press(qRound(width * 5.2 / 20), height / 8);
+    const QPoint release(qRound(width * 14.8 / 20), height / 2);
+    QWidget* viewport = view->viewport();
+    movePointer(viewport, press);
+    QTest::mousePress(viewport, Qt::LeftButton, {}, press);
+    movePointer(viewport, release);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, release);
     QCOMPARE(scene->zoomDepth(), 2);
-    QVERIFY(scene->xWindow().start > 0);
-    QVERIFY(scene->xWindow().end < 20);
-    QTest::mouseClick(view->viewport(), Qt::RightButton, {}, QPoint(10, 10));
+    QCOMPARE(scene->xWindow().start, 5);
+    QCOMPARE(scene->xWindow().end, 15);
+    const auto draggedY = [&](int pixelY) {
+        return float(double(yLow) + (double(yHigh) - double(yLow)) * (height - pixelY) / height);
+    };
+    QCOMPARE(scene->getYLow(), draggedY(release.y()));
+    QCOMPARE(scene->getYHigh(), draggedY(press.y()));
+    QTest::mouseClick(viewport, Qt::RightButton, {}, QPoint(10, 10));
     QCOMPARE(scene->zoomDepth(), 1);
     QCOMPARE(scene->xWindow().start, 0);
     QCOMPARE(scene->xWindow().end, 20);
     QCOMPARE(scene->getYLow(), yLow);
+    QCOMPARE(scene->getYHigh(), yHigh);
 }
 
 void SineTabTest::clickWithoutMovementDoesNotZoom()
