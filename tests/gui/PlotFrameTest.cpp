@@ -1,11 +1,16 @@
 #include "app/MainWindow.h"
 #include "assoc/gui/AssoOpenGLScene.h"
+#include "pentagon/gui/PentagonMiniMap.h"
+#include "pentagon/gui/PentagonMiniScene.h"
+#include "pentagon/gui/PentagonOpenGLScene.h"
 #include "sine/gui/SineOpenGLScene.h"
 #include "tests/gui/GuiTestSupport.h"
 
+#include <QAbstractButton>
 #include <QDir>
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
+#include <QScrollBar>
 #include <QtTest>
 #include <functional>
 #include <memory>
@@ -13,8 +18,11 @@
 // The Associative Law and Sine plots, frame by frame, against stored pictures: the default
 // frame, a frame in the middle of the animation, one with error comparison, value labels and
 // both kinds of grid lines on, and the frames of a drag (rubber band, then the zoomed view)
-// and of a hover over the legend. A changed pixel fails; the frame drawn is saved in the
-// test's working folder so it can be looked at.
+// and of a hover over the legend. The Pentagon plot likewise: the animated example before
+// Start and after its last step, a drag, Tolerance mode with labels, grid lines and a ringed
+// vertex, a failed step's message, points being entered, selection mode, and colours, line
+// width and point size read from a configuration file. A changed pixel fails; the frame drawn
+// is saved in the test's working folder so it can be looked at.
 //
 // QUILLON_WRITE_FRAME_PICTURES=1 stores the frames drawn now as the new pictures instead (and
 // skips, so that a run that writes never passes as a check).
@@ -24,9 +32,14 @@ namespace
 constexpr int kWindowWidth = 1200;
 constexpr int kWindowHeight = 860;
 
+QString testDataPath(const QString& fileName)
+{
+    return QDir(QStringLiteral(QUILLON_TEST_DATA_DIR)).filePath(fileName);
+}
+
 QString picturePath(const QString& name)
 {
-    return QDir(QStringLiteral(QUILLON_TEST_DATA_DIR)).filePath(name + QStringLiteral(".png"));
+    return testDataPath(name + QStringLiteral(".png"));
 }
 
 bool writingPictures()
@@ -46,6 +59,23 @@ int differingPixels(const QImage& a, const QImage& b)
     return count;
 }
 
+// A mouse event straight to a scene, as a view hands it over, so that it has taken effect
+// before the next frame is painted.
+void sendSceneMouse(QGraphicsScene* scene, const QWidget* viewport, QEvent::Type type,
+                    QPointF position, Qt::MouseButton button, Qt::MouseButtons buttons)
+{
+    QGraphicsSceneMouseEvent event(type);
+    event.setScenePos(position);
+    event.setScreenPos(viewport->mapToGlobal(position.toPoint()));
+    event.setButton(button);
+    event.setButtons(buttons);
+    event.setAccepted(false);
+    QApplication::sendEvent(scene, &event);
+}
+
+// The Pentagon tab runs its animated example in ten steps, five Ins then five Outs.
+constexpr int kPentagonAnimationSteps = 10;
+
 } // namespace
 
 class PlotFrameTest : public QObject
@@ -57,10 +87,20 @@ private slots:
     void cleanup();
     void associativeLawFrames();
     void sineFrames();
+    void pentagonAnimationFrames();
+    void pentagonToleranceFrames();
+    void pentagonEnteredPointsFrame();
+    void pentagonSelectionFrame();
+    void pentagonColorFrames();
 
 private:
     QGraphicsView* showTab(int tab, const char* placeholder, const char* timer);
+    PentagonOpenGLScene* showPentagonTab();
+    void clickButton(const char* name);
+    void runPentagonAnimation(PentagonOpenGLScene* scene);
+    void enterPoints(const QList<QPointF>& fractions);
     void expectFrame(const QString& name);
+    void skipWhenWriting();
     void expectDragFrames(const QString& prefix);
     void sendMouse(QEvent::Type type, double fx, double fy, Qt::MouseButton button,
                    Qt::MouseButtons buttons);
@@ -73,6 +113,7 @@ private:
 
 void PlotFrameTest::init()
 {
+    written.clear();
     window = std::make_unique<MainWindow>();
     window->resize(kWindowWidth, kWindowHeight);
 }
@@ -125,19 +166,20 @@ void PlotFrameTest::expectFrame(const QString& name)
                                             .arg(drawn)));
 }
 
-// Mouse events go straight to the scene, as the view hands them over, so that each one has
-// taken effect before the next frame is painted.
+// A run that wrote the pictures checked nothing: it must not pass.
+void PlotFrameTest::skipWhenWriting()
+{
+    if (writingPictures()) {
+        QSKIP(qPrintable(QStringLiteral("wrote ") + written.join(QStringLiteral(", "))));
+    }
+}
+
+// A point of the plot given as fractions of the view's width and height.
 void PlotFrameTest::sendMouse(QEvent::Type type, double fx, double fy, Qt::MouseButton button,
                               Qt::MouseButtons buttons)
 {
-    QGraphicsSceneMouseEvent event(type);
     const QPointF position(qRound(view->width() * fx), qRound(view->height() * fy));
-    event.setScenePos(position);
-    event.setScreenPos(view->viewport()->mapToGlobal(position.toPoint()));
-    event.setButton(button);
-    event.setButtons(buttons);
-    event.setAccepted(false);
-    QApplication::sendEvent(view->scene(), &event);
+    sendSceneMouse(view->scene(), view->viewport(), type, position, button, buttons);
 }
 
 void PlotFrameTest::hoverAt(double fx, double fy)
@@ -182,9 +224,7 @@ void PlotFrameTest::associativeLawFrames()
     expectFrame(QStringLiteral("assoc-legend-hover"));
     expectDragFrames(QStringLiteral("assoc"));
     QCOMPARE(scene->zoomDepth(), 2);
-    if (writingPictures()) {
-        QSKIP(qPrintable(QStringLiteral("wrote ") + written.join(QStringLiteral(", "))));
-    }
+    skipWhenWriting();
 }
 
 void PlotFrameTest::sineFrames()
@@ -211,9 +251,152 @@ void PlotFrameTest::sineFrames()
     expectFrame(QStringLiteral("sine-legend-hover"));
     expectDragFrames(QStringLiteral("sine"));
     QCOMPARE(scene->zoomDepth(), 2);
-    if (writingPictures()) {
-        QSKIP(qPrintable(QStringLiteral("wrote ") + written.join(QStringLiteral(", "))));
+    skipWhenWriting();
+}
+
+PentagonOpenGLScene* PlotFrameTest::showPentagonTab()
+{
+    if (showTab(1, "pentagon_VisWindow", "pentagon_timer") == nullptr) {
+        return nullptr;
     }
+    return qobject_cast<PentagonOpenGLScene*>(view->scene());
+}
+
+// Clicks a button of the tab's panel from code: its signals have been handled when this
+// returns, with no round trip through the X server.
+void PlotFrameTest::clickButton(const char* name)
+{
+    auto* button = window->findChild<QAbstractButton*>(QString::fromLatin1(name));
+    QVERIFY2(button != nullptr, name);
+    button->click();
+}
+
+// Start, then every step of the animated example and two ticks more, which change nothing.
+void PlotFrameTest::runPentagonAnimation(PentagonOpenGLScene* scene)
+{
+    clickButton("pentagon_Default");
+    for (int tick = 0; tick < kPentagonAnimationSteps + 2; ++tick) {
+        scene->runningMan();
+    }
+    QCOMPARE(scene->getAnimationStep(), kPentagonAnimationSteps);
+    QCOMPARE(int(scene->engine().getHistory().size()), kPentagonAnimationSteps + 1);
+}
+
+// Clicks in manual mode, each one a point of the pentagon being entered.
+void PlotFrameTest::enterPoints(const QList<QPointF>& fractions)
+{
+    for (const QPointF& at : fractions) {
+        sendMouse(QEvent::GraphicsSceneMousePress, at.x(), at.y(), Qt::LeftButton, Qt::LeftButton);
+        sendMouse(QEvent::GraphicsSceneMouseRelease, at.x(), at.y(), Qt::LeftButton, Qt::NoButton);
+    }
+}
+
+void PlotFrameTest::pentagonAnimationFrames()
+{
+    PentagonOpenGLScene* scene = showPentagonTab();
+    QVERIFY(scene != nullptr);
+    // Before Start only the initial pentagon is there, whatever the timer did.
+    QVERIFY(scene->isAnimating());
+    QCOMPARE(int(scene->engine().getHistory().size()), 1);
+    expectFrame(QStringLiteral("pentagon-default"));
+    runPentagonAnimation(scene);
+    expectFrame(QStringLiteral("pentagon-animation-end"));
+    expectDragFrames(QStringLiteral("pentagon"));
+    QCOMPARE(scene->zoomDepth(), 1);
+    skipWhenWriting();
+}
+
+void PlotFrameTest::pentagonToleranceFrames()
+{
+    PentagonOpenGLScene* scene = showPentagonTab();
+    QVERIFY(scene != nullptr);
+    clickButton("pentagon_autoInput");
+    QVERIFY(!scene->isAnimating());
+    // Three steps: the initial pentagon, two older ones in grey and the newest.
+    clickButton("pentagon_In");
+    clickButton("pentagon_In");
+    clickButton("pentagon_Out");
+    QCOMPARE(int(scene->engine().getHistory().size()), 4);
+    for (const char* option :
+         {"pentagon_xvalues", "pentagon_yvalues", "pentagon_xaxis", "pentagon_yaxis"}) {
+        clickButton(option);
+    }
+    // The ring the value inspector asks for: the third point of the second pentagon.
+    scene->markVertex(quillon::PlotNode{1, 3});
+    expectFrame(QStringLiteral("pentagon-tolerance-labels-grid"));
+    // Ins until one fails: its message stands in the middle of the plot, in red.
+    for (int step = 0; step < 20 && !scene->engine().hasFailed(); ++step) {
+        clickButton("pentagon_In");
+    }
+    QVERIFY(scene->engine().hasFailed());
+    expectFrame(QStringLiteral("pentagon-failed-step"));
+    skipWhenWriting();
+}
+
+void PlotFrameTest::pentagonEnteredPointsFrame()
+{
+    PentagonOpenGLScene* scene = showPentagonTab();
+    QVERIFY(scene != nullptr);
+    clickButton("pentagon_userInput");
+    enterPoints({{0.3, 0.3}, {0.7, 0.25}, {0.75, 0.7}});
+    QVERIFY(scene->engine().isEnteringPoints());
+    QCOMPARE(scene->engine().getUserPointCount(), 3);
+    expectFrame(QStringLiteral("pentagon-entered-points"));
+    skipWhenWriting();
+}
+
+void PlotFrameTest::pentagonSelectionFrame()
+{
+    PentagonOpenGLScene* scene = showPentagonTab();
+    QVERIFY(scene != nullptr);
+    auto* history = qobject_cast<PentagonMiniMap*>(popMenuWindow(*window, QStringLiteral("&Tools"),
+                                                                 QStringLiteral("&Selections ..."),
+                                                                 QStringLiteral("Selections")));
+    QVERIFY(history != nullptr);
+    runPentagonAnimation(scene);
+    // Row r lists entry 9 - r + 2: row 1 the newest pentagon, row 6 one five steps older.
+    history->scrollBar()->setValue(9);
+    PentagonMiniScene* list = history->historyScene();
+    const double rowHeight = history->listView()->viewport()->height() / 11.0;
+    const auto clickRow = [&](int row) {
+        const QPointF position(200, (row + 0.5) * rowHeight);
+        QCOMPARE(list->rowAt(position.y()), row);
+        const QWidget* viewport = history->listView()->viewport();
+        sendSceneMouse(list, viewport, QEvent::GraphicsSceneMousePress, position, Qt::LeftButton,
+                       Qt::LeftButton);
+        sendSceneMouse(list, viewport, QEvent::GraphicsSceneMouseRelease, position, Qt::LeftButton,
+                       Qt::NoButton);
+    };
+    clickRow(0);
+    clickRow(1);
+    clickRow(6);
+    QVERIFY(scene->showsSelection());
+    QVERIFY(list->isSelected(10));
+    QVERIFY(list->isSelected(5));
+    QVERIFY(!list->isSelected(0));
+    expectFrame(QStringLiteral("pentagon-selection"));
+    history->close();
+    skipWhenWriting();
+}
+
+// Line width 3, point size 12 and seven colours of their own, read as the File menu reads
+// them.
+void PlotFrameTest::pentagonColorFrames()
+{
+    PentagonOpenGLScene* scene = showPentagonTab();
+    QVERIFY(scene != nullptr);
+    const QString failure =
+        scene->loadConfiguration(testDataPath(QStringLiteral("pentagon-colours.conf")));
+    QVERIFY2(failure.isEmpty(), qPrintable(failure));
+    QCOMPARE(scene->colors().lineWidth, 3);
+    QCOMPARE(scene->colors().pointSize, 12);
+    runPentagonAnimation(scene);
+    expectFrame(QStringLiteral("pentagon-colours-lines"));
+    clickButton("pentagon_userInput");
+    enterPoints({{0.3, 0.3}, {0.7, 0.25}, {0.75, 0.7}, {0.35, 0.75}});
+    QCOMPARE(scene->engine().getUserPointCount(), 4);
+    expectFrame(QStringLiteral("pentagon-colours-points"));
+    skipWhenWriting();
 }
 
 QTEST_MAIN(PlotFrameTest)
