@@ -1,5 +1,5 @@
 #include "app/MainWindow.h"
-#include "common/gui/ImageLookup.h"
+#include "common/picture/ImageLookup.h"
 
 #include <QApplication>
 #include <QIcon>

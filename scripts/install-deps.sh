@@ -6,7 +6,7 @@ set -euo pipefail
 
 packages=(
     build-essential cmake ccache git
-    qt6-base-dev libqt6opengl6-dev
+    qt6-base-dev qt6-svg-dev libqt6opengl6-dev
     libgmp-dev libmpfr-dev libgl-dev libglu1-mesa-dev libgl1-mesa-dri
     libgtest-dev libbenchmark-dev
     xvfb xauth fonts-liberation fontconfig locales

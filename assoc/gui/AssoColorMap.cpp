@@ -3,7 +3,7 @@
 #include "assoc/engine/AssoPlotGeometry.h"
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "common/gui/GroupBoxStyle.h"
-#include "common/gui/ImageLookup.h"
+#include "common/picture/ImageLookup.h"
 
 #include <QGroupBox>
 #include <QPushButton>

@@ -6,9 +6,9 @@
 #include "common/gui/FieldValidators.h"
 #include "common/gui/FileRoutines.h"
 #include "common/gui/GlPlotFrame.h"
-#include "common/gui/ImageLookup.h"
 #include "common/gui/PlotOverlay.h"
 #include "common/gui/QtColor.h"
+#include "common/picture/ImageLookup.h"
 
 #include <GL/gl.h>
 #include <QLineEdit>

@@ -3,7 +3,7 @@
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "common/gui/CheckBoxStyle.h"
 #include "common/gui/GroupBoxStyle.h"
-#include "common/gui/ImageLookup.h"
+#include "common/picture/ImageLookup.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>

@@ -1,6 +1,6 @@
 #include "common/gui/CheckBoxStyle.h"
 
-#include "common/gui/ImageLookup.h"
+#include "common/picture/ImageLookup.h"
 
 namespace quillon
 {

@@ -2,9 +2,9 @@
 
 #include "common/core/AnimationSpeed.h"
 #include "common/core/CFormat.h"
-#include "common/gui/ImageLookup.h"
 #include "common/gui/PlotFocusWindow.h"
 #include "common/gui/PlotOverlay.h"
+#include "common/picture/ImageLookup.h"
 
 #include <GL/gl.h>
 #include <QGraphicsSceneMouseEvent>
@@ -37,7 +37,7 @@ IndexPlotScene::IndexPlotScene(const PlotAnimationPanel& controls, QObject* pare
 
 QRectF IndexPlotScene::errorIconRect(int i) const
 {
-    return plotErrorIconRect(nodePixelX(i), viewWidth, viewHeight);
+    return plotView().errorIconRect(i);
 }
 
 void IndexPlotScene::markNode(std::optional<PlotNode> node)
@@ -170,24 +170,29 @@ void IndexPlotScene::togglePause()
 
 // ---- geometry -----------------------------------------------------------------------------
 
+IndexPlotView IndexPlotScene::plotView() const
+{
+    return {window, N, xMin, xMax, yMin, yMax, viewWidth, viewHeight};
+}
+
 float IndexPlotScene::nodeX(int i) const
 {
-    return plotNodeX(window, i, xMin, xMax);
+    return plotView().nodeX(i);
 }
 
 float IndexPlotScene::nodePixelX(int i) const
 {
-    return float(viewWidth) * (nodeX(i) - xMin) / (xMax - xMin);
+    return plotView().nodePixelX(i);
 }
 
 float IndexPlotScene::valuePixelY(float value) const
 {
-    return float(viewHeight) * (yMax - value) / (yMax - yMin);
+    return plotView().valuePixelY(value);
 }
 
 float IndexPlotScene::gridValue(int j) const
 {
-    return plotGridValue(j, yMin, yMax);
+    return plotView().gridValue(j);
 }
 
 // ---- painting -----------------------------------------------------------------------------

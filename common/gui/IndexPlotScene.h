@@ -1,11 +1,12 @@
 #pragma once
 
 #include "common/core/PlotXWindow.h"
-#include "common/gui/IndexLabels.h"
 #include "common/gui/OpenGLPlotScene.h"
 #include "common/gui/PlotAnimationPanel.h"
 #include "common/gui/PlotMouse.h"
-#include "common/gui/PlotNodePick.h"
+#include "common/picture/IndexLabels.h"
+#include "common/picture/IndexPlotView.h"
+#include "common/picture/PlotNodePick.h"
 
 #include <QImage>
 #include <QRectF>
@@ -82,6 +83,8 @@ protected:
     // Pauses or resumes, and names what the pause button does next.
     void togglePause();
 
+    // The window, the ranges and the view's size as the plot's description takes them.
+    IndexPlotView plotView() const;
     float nodeX(int i) const;
     float nodePixelX(int i) const;
     float valuePixelY(float value) const;

@@ -1,7 +1,7 @@
 #include "pentagon/gui/PentagonMiniScene.h"
 
 #include "common/core/CFormat.h"
-#include "common/gui/ImageLookup.h"
+#include "common/picture/ImageLookup.h"
 #include "pentagon/engine/PentagonGeometry.h"
 #include "pentagon/gui/PentagonOpenGLScene.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "common/gui/OpenGLPlotScene.h"
-#include "common/gui/PlotNodePick.h"
+#include "common/picture/PlotNodePick.h"
 #include "pentagon/engine/PentagonEngine.h"
 #include "pentagon/engine/PentagonFiles.h"
 #include "pentagon/gui/PentagonPanel.h"

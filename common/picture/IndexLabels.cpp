@@ -1,4 +1,4 @@
-#include "common/gui/IndexLabels.h"
+#include "common/picture/IndexLabels.h"
 
 #include "common/core/CFormat.h"
 
@@ -7,17 +7,17 @@
 namespace quillon
 {
 
-IndexLabels::IndexLabels(const QFont& font) : font(font) {}
+IndexLabels::IndexLabels(const QFont& font) : labelFont(font) {}
 
 void IndexLabels::grow(int index)
 {
-    const QFontMetrics metrics(font);
+    const QFontMetrics metrics(labelFont);
     for (int n = int(texts.size()); n <= index; ++n) {
         texts.push_back(QString::fromStdString(cformat("%d", n)));
         widths.push_back(metrics.horizontalAdvance(texts.back()));
         staticTexts.emplace_back(texts.back());
         staticTexts.back().setTextFormat(Qt::PlainText);
-        staticTexts.back().prepare(QTransform(), font);
+        staticTexts.back().prepare(QTransform(), labelFont);
     }
 }
 

@@ -1,4 +1,4 @@
-#include "common/gui/ImageLookup.h"
+#include "common/picture/ImageLookup.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "common/picture/PlotPicture.h"
+
 #include <QPointF>
 #include <functional>
 #include <optional>
 #include <vector>
-
-class QPainter;
 
 namespace quillon
 {
@@ -30,6 +30,6 @@ std::optional<PlotNode> nearestPlotNode(QPointF position, float radius, int curv
                                         const std::function<QPointF(int, int)>& pixelOf);
 
 // The black ring that marks the node the inspector shows.
-void drawPlotNodeRing(QPainter* painter, QPointF centre);
+PlotRing plotNodeRing(QPointF centre);
 
 } // namespace quillon

@@ -16,6 +16,8 @@ class IndexLabels
 public:
     explicit IndexLabels(const QFont& font);
 
+    const QFont& font() const { return labelFont; }
+
     const QString& text(int index);
     // The label laid out once, for drawing many times.
     const QStaticText& staticText(int index);
@@ -24,7 +26,7 @@ public:
 private:
     void grow(int index);
 
-    QFont font;
+    QFont labelFont;
     std::vector<QString> texts;
     std::vector<QStaticText> staticTexts;
     std::vector<int> widths;

@@ -1,6 +1,5 @@
-#include "common/gui/PlotNodePick.h"
+#include "common/picture/PlotNodePick.h"
 
-#include <QPainter>
 #include <cmath>
 
 namespace quillon
@@ -26,13 +25,9 @@ std::optional<PlotNode> nearestPlotNode(QPointF position, float radius, int curv
     return nearest;
 }
 
-void drawPlotNodeRing(QPainter* painter, QPointF centre)
+PlotRing plotNodeRing(QPointF centre)
 {
-    painter->save();
-    painter->setPen(QPen(Qt::black, 2));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawEllipse(centre, 7.0, 7.0);
-    painter->restore();
+    return {centre, 7.0, QPen(Qt::black, 2)};
 }
 
 } // namespace quillon

@@ -1,0 +1,255 @@
+#include "common/picture/PlotPainter.h"
+
+#include "common/picture/IndexLabels.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <numeric>
+
+namespace quillon
+{
+
+namespace
+{
+
+// Draws the overlay items one by one; each sets the painter state it needs.
+struct OverlayItemPainter {
+    QPainter* painter;
+    PlotOverlayCache* cache;
+    QSize size;
+
+    void operator()(const PlotText& item) const
+    {
+        painter->setFont(item.font);
+        painter->setPen(item.color);
+        if (item.turn == 0.0) {
+            painter->drawText(item.baseline, item.text);
+            return;
+        }
+        painter->save();
+        painter->translate(item.baseline);
+        painter->rotate(item.turn);
+        painter->drawText(QPointF(0, 0), item.text);
+        painter->restore();
+    }
+
+    void operator()(const PlotBoxText& item) const
+    {
+        painter->setFont(item.font);
+        painter->setPen(item.color);
+        painter->drawText(item.box, item.flags, item.text);
+    }
+
+    void operator()(const PlotIndexLabels& item) const
+    {
+        if (item.turn != 0.0 && cache != nullptr) {
+            painter->drawImage(QPointF(0, 0), cache->turnedLabelLayer(item, size));
+            return;
+        }
+        painter->save();
+        painter->setFont(item.labels->font());
+        painter->setPen(item.color);
+        painter->rotate(item.turn);
+        for (const auto& [corner, index] : item.placed) {
+            painter->drawStaticText(corner, item.labels->staticText(index));
+        }
+        painter->restore();
+    }
+
+    void operator()(const PlotLines& item) const
+    {
+        painter->setPen(item.pen);
+        painter->drawLines(item.lines.data(), int(item.lines.size()));
+    }
+
+    void operator()(const PlotOutline& item) const
+    {
+        painter->setPen(item.pen);
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(item.rect);
+    }
+
+    void operator()(const PlotImage& item) const { painter->drawImage(item.target, item.image); }
+
+    void operator()(const PlotFill& item) const { painter->fillRect(item.rect, item.color); }
+
+    void operator()(const PlotRing& item) const
+    {
+        painter->save();
+        painter->setPen(item.pen);
+        painter->setBrush(Qt::NoBrush);
+        painter->drawEllipse(item.centre, item.radius, item.radius);
+        painter->restore();
+    }
+};
+
+QColor qColorOf(const PlotRgb& rgb)
+{
+    return QColor::fromRgbF(std::clamp(rgb.red, 0.0f, 1.0f), std::clamp(rgb.green, 0.0f, 1.0f),
+                            std::clamp(rgb.blue, 0.0f, 1.0f));
+}
+
+// The OpenGL stipple as a dash pattern in units of the pen's width: runs of set and clear
+// bits from bit 0, starting with a set run (the clear bits before it become the offset).
+void applyStipple(QPen& pen, std::uint16_t stipple)
+{
+    if (stipple == 0 || stipple == 0xFFFF) {
+        return;
+    }
+    int first = 0;
+    while ((stipple >> first & 1) == 0) {
+        ++first;
+    }
+    QList<qreal> pattern;
+    bool on = true;
+    int run = 0;
+    for (int bit = 0; bit < 16; ++bit) {
+        const bool set = (stipple >> ((first + bit) % 16) & 1) != 0;
+        if (set != on) {
+            pattern << run / pen.widthF();
+            on = set;
+            run = 0;
+        }
+        ++run;
+    }
+    pattern << run / pen.widthF();
+    if (pattern.size() % 2 != 0) {
+        pattern << 0.0;
+    }
+    pen.setDashPattern(pattern);
+    pen.setDashOffset((16 - first) % 16 / pen.widthF());
+}
+
+class BackgroundPainter
+{
+public:
+    BackgroundPainter(QPainter* painter, const PlotPicture& picture)
+        : painter(painter), box(picture.background), width(picture.size.width()),
+          height(picture.size.height())
+    {
+    }
+
+    QPointF pixelOf(const PlotVertex& vertex) const
+    {
+        return QPointF((vertex.x - box.left) / (box.right - box.left) * width,
+                       (box.top - vertex.y) / (box.top - box.bottom) * height);
+    }
+
+    // Segments in reverse order, so that of two on one pixel the earlier ends on top.
+    void paintLines(const PlotStroke& stroke) const
+    {
+        QPen pen(Qt::black, qreal(stroke.width), Qt::SolidLine,
+                 stroke.stipple == 0 ? Qt::RoundCap : Qt::FlatCap, Qt::RoundJoin);
+        applyStipple(pen, stroke.stipple);
+        std::vector<QLineF> run;
+        PlotRgb runColor;
+        const auto flush = [&] {
+            if (!run.empty()) {
+                pen.setColor(qColorOf(runColor));
+                painter->setPen(pen);
+                painter->drawLines(run.data(), int(run.size()));
+                run.clear();
+            }
+        };
+        for (size_t i = stroke.vertices.size() / 2; i-- > 0;) {
+            const PlotVertex& from = stroke.vertices[2 * i];
+            const PlotVertex& to = stroke.vertices[2 * i + 1];
+            if (!run.empty() && !(from.color == runColor)) {
+                flush();
+            }
+            runColor = from.color;
+            run.emplace_back(pixelOf(from), pixelOf(to));
+        }
+        flush();
+    }
+
+    void paintPoints(const PlotStroke& stroke) const
+    {
+        const qreal side = stroke.width;
+        for (auto vertex = stroke.vertices.rbegin(); vertex != stroke.vertices.rend(); ++vertex) {
+            const QPointF centre = pixelOf(*vertex);
+            painter->fillRect(QRectF(centre.x() - side / 2, centre.y() - side / 2, side, side),
+                              qColorOf(vertex->color));
+        }
+    }
+
+private:
+    QPainter* painter;
+    const PlotBackground& box;
+    double width;
+    double height;
+};
+
+} // namespace
+
+bool PlotOverlayCache::Key::operator==(const Key& other) const
+{
+    return size == other.size && color == other.color && placed == other.placed;
+}
+
+const QImage& PlotOverlayCache::turnedLabelLayer(const PlotIndexLabels& labels, QSize size)
+{
+    Key wanted{size, labels.color, labels.placed};
+    if (key && *key == wanted) {
+        return layer;
+    }
+    // The turned labels hang from the top edge as far as the longest one is wide.
+    int widest = 0;
+    for (const auto& placed : labels.placed) {
+        widest = std::max(widest, labels.labels->width(placed.second));
+    }
+    const int depth = std::min(widest + 4, std::max(size.height(), 1));
+    layer = QImage(std::max(size.width(), 1), depth, QImage::Format_ARGB32_Premultiplied);
+    layer.fill(Qt::transparent);
+    QPainter painter(&layer);
+    painter.setFont(labels.labels->font());
+    painter.setPen(labels.color);
+    painter.rotate(labels.turn);
+    for (const auto& [corner, index] : labels.placed) {
+        painter.drawStaticText(corner, labels.labels->staticText(index));
+    }
+    key = std::move(wanted);
+    return layer;
+}
+
+void paintPlotOverlay(QPainter* painter, const PlotPicture& picture, PlotOverlayCache* cache)
+{
+    const OverlayItemPainter itemPainter{painter, cache, picture.size};
+    painter->save();
+    for (const PlotOverlayItem& item : picture.overlay) {
+        std::visit(itemPainter, item);
+    }
+    painter->restore();
+}
+
+void paintPlotBackground(QPainter* painter, const PlotPicture& picture)
+{
+    painter->fillRect(QRectF(QPointF(0, 0), QSizeF(picture.size)), Qt::white);
+    const std::vector<PlotStroke>& strokes = picture.background.strokes;
+    std::vector<size_t> order(strokes.size());
+    std::iota(order.begin(), order.end(), size_t(0));
+    // Farther first; at one depth the later stroke first, so the earlier one ends on top.
+    std::sort(order.begin(), order.end(), [&](size_t a, size_t b) {
+        return strokes[a].depth != strokes[b].depth ? strokes[a].depth < strokes[b].depth : a > b;
+    });
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing, true);
+    const BackgroundPainter background(painter, picture);
+    for (size_t index : order) {
+        const PlotStroke& stroke = strokes[index];
+        if (stroke.kind == PlotStroke::Kind::Lines) {
+            background.paintLines(stroke);
+        } else {
+            background.paintPoints(stroke);
+        }
+    }
+    painter->restore();
+}
+
+void paintPlotPicture(QPainter* painter, const PlotPicture& picture)
+{
+    paintPlotBackground(painter, picture);
+    paintPlotOverlay(painter, picture);
+}
+
+} // namespace quillon
