@@ -8,6 +8,10 @@
 
 using AssoColors = std::array<quillon::ColorTriple, kAssoOrderCount>;
 
+// The colours of the five orders at start-up.
+constexpr AssoColors kAssoDefaultColors = {
+    {{128, 0, 128}, {0, 128, 128}, {255, 69, 0}, {128, 128, 0}, {0, 255, 0}}};
+
 // The colour configuration file: one line "FuncK Color R r G g B b" per order, K from 0.
 std::string assoColorFileText(const AssoColors& colors);
 

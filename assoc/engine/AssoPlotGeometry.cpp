@@ -53,3 +53,16 @@ std::optional<std::pair<float, float>> assoFitYRange(const AssoPlotContent& cont
     }
     return range;
 }
+
+std::optional<std::pair<float, float>> assoShownYRange(const AssoPlotContent& content,
+                                                       const quillon::PlotXWindow& window,
+                                                       float xMin, float xMax)
+{
+    auto range = assoFitYRange(content, window, xMin, xMax);
+    if (range && range->first == range->second) {
+        const float margin = std::max(std::fabs(range->first) * 0.5f, 0.5f);
+        range->first -= margin;
+        range->second += margin;
+    }
+    return range;
+}

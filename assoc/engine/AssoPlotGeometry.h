@@ -32,3 +32,9 @@ struct AssoPlotContent {
 std::optional<std::pair<float, float>> assoFitYRange(const AssoPlotContent& content,
                                                      const quillon::PlotXWindow& window, float xMin,
                                                      float xMax);
+
+// The Y range the plot shows after a fit: assoFitYRange, widened around a flat set of values
+// (R = 0, say) so that the range keeps some height; nothing when no node qualifies.
+std::optional<std::pair<float, float>> assoShownYRange(const AssoPlotContent& content,
+                                                       const quillon::PlotXWindow& window,
+                                                       float xMin, float xMax);

@@ -4,7 +4,10 @@
 #include "assoc/engine/AssoPlotGeometry.h"
 #include "assoc/engine/AssoRecurrence.h"
 #include "assoc/gui/AssoPanel.h"
+#include "assoc/picture/AssoPlotState.h"
 #include "common/gui/IndexPlotScene.h"
+#include "common/picture/PlotPainter.h"
+#include "common/picture/PlotPicture.h"
 
 #include <QImage>
 #include <QString>
@@ -53,6 +56,9 @@ public:
     // The drawn node nearest a point of the view within `radius` pixels: curve = order,
     // index = iteration.
     std::optional<quillon::PlotNode> nodeNear(QPointF position, float radius) const;
+
+    // What the view shows now, laid out for a view of `viewSize`.
+    quillon::PlotPicture picture(QSize viewSize, quillon::PictureUse use) const;
 
     // The module's files; each returns why it failed (and then changed nothing), or "".
     QString saveColorFile(const QString& path) const;
@@ -120,16 +126,7 @@ private:
     AssoPlotContent plotContent() const;
     bool mouseOnErrorIcon() const;
 
-    void drawCurves() const;
-    void drawXIndices(QPainter* painter) const;
-    void paintXIndexLayer() const;
-    void drawXAxisLines(QPainter* painter) const;
-    void drawYAxisLines(QPainter* painter) const;
-    void drawErrorIcons(QPainter* painter) const;
-    void drawErrorMessages(QPainter* painter) const;
-    void drawLegend(QPainter* painter) const;
-    void drawSpreadReadout(QPainter* painter) const;
-    void drawNodeMark(QPainter* painter) const;
+    AssoPlotState plotState() const;
 
     AssoSelectionWindow* selectionWindow = nullptr;
     AssoFocusWindow* focusWindow = nullptr;
@@ -149,16 +146,6 @@ private:
     float gridDepth = 0.0f;
     float formulaAspect = 14.788462f;
     std::array<QImage, kAssoOrderCount> formulaImages;
-    // The X index labels change only with the window and the view's size, yet a long window
-    // has thousands of them: they are painted into an image once per change and the image is
-    // drawn on every frame.
-    struct XIndexLayerKey {
-        quillon::PlotXWindow window;
-        int n;
-        int width;
-        int height;
-        bool operator==(const XIndexLayerKey& other) const;
-    };
-    mutable QImage xIndexLayer;
-    mutable std::optional<XIndexLayerKey> xIndexLayerKey;
+    // Keeps the layer of turned index labels between frames.
+    quillon::PlotOverlayCache overlayCache;
 };

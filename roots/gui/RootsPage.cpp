@@ -5,7 +5,7 @@
 #include "common/gui/FileRoutines.h"
 #include "common/gui/GroupBoxStyle.h"
 #include "common/gui/PageChild.h"
-#include "common/gui/QtColor.h"
+#include "common/picture/QtColor.h"
 #include "common/gui/TabPageArea.h"
 #include "common/picture/ImageLookup.h"
 #include "roots/engine/RootsCellColors.h"

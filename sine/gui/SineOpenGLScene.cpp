@@ -5,7 +5,7 @@
 #include "common/gui/FileRoutines.h"
 #include "common/gui/GlPlotFrame.h"
 #include "common/gui/PlotOverlay.h"
-#include "common/gui/QtColor.h"
+#include "common/picture/QtColor.h"
 #include "common/picture/ImageLookup.h"
 #include "sine/engine/SineEngine.h"
 #include "sine/engine/SinePlotGeometry.h"
