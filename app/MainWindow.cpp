@@ -2,6 +2,7 @@
 
 #include "app/GraphicsView.h"
 #include "app/PickGestures.h"
+#include "app/PictureExportDialog.h"
 #include "app/TabMenuSet.h"
 #include "assoc/gui/AssoColorMap.h"
 #include "assoc/gui/AssoFocusWindow.h"
@@ -9,6 +10,7 @@
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "assoc/gui/AssoSelectionWindow.h"
 #include "assoc/gui/AssoUserMenu.h"
+#include "common/gui/FileRoutines.h"
 #include "common/gui/TabPageArea.h"
 #include "inspect/gui/InspectorWindow.h"
 #include "pentagon/gui/PentagonColorMap.h"
@@ -42,6 +44,12 @@ constexpr int kInitialContentWidth = 800;
 constexpr int kInitialContentHeight = 570;
 // The part of the window's height that the menu bar takes.
 constexpr int kMenuBarAllowance = 30;
+
+// A plotting scene's picture of what its view shows, for a file.
+template <typename Scene> quillon::PictureDescriber filePictureOf(const Scene* scene)
+{
+    return [scene](QSize size) { return scene->picture(size, quillon::PictureUse::File); };
+}
 
 } // namespace
 
@@ -227,6 +235,7 @@ void MainWindow::setUpAssoTab()
                    [scene](const QString& name) { return scene->saveTextData(name); });
     setFileRoutine(FileAction::AssoSaveCsv,
                    [scene](const QString& name) { return scene->saveCsvData(name); });
+    enableActionFor(SLOT(asso_exportPicture()));
     assoTimer->start(400);
 }
 
@@ -310,6 +319,32 @@ void MainWindow::popInspectorWindow()
 {
     auxiliaryWindows.pop(AuxWindow::Inspector);
 }
+
+void MainWindow::exportPicture(const quillon::PictureDescriber& describe, QSize viewSize,
+                               QSize referenceSize)
+{
+    PictureExportDialog dialog(viewSize, this);
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    const QString fileName = dialog.fileName();
+    const QByteArray bytes = quillon::pictureFileBytes(
+        describe, dialog.pictureSize(), referenceSize, *quillon::pictureFormatFor(fileName));
+    reportFileOutcome(this, false, fileName,
+                      quillon::writeWholeFile(fileName, bytes.toStdString()));
+}
+
+void MainWindow::roots_exportPicture() {}
+
+void MainWindow::pentagon_exportPicture() {}
+
+void MainWindow::asso_exportPicture()
+{
+    exportPicture(filePictureOf(assoScene), assoView->viewport()->size(),
+                  quillon::kDefaultPlotViewSize);
+}
+
+void MainWindow::sine_exportPicture() {}
 
 void MainWindow::installAuxiliaryWindow(AuxWindow window, QWidget* widget)
 {

@@ -3,6 +3,7 @@
 #include "app/AuxiliaryWindowSet.h"
 #include "app/MenuTable.h"
 #include "app/ModuleFileActions.h"
+#include "common/picture/PictureFile.h"
 #include "pentagon/engine/PentagonFiles.h"
 
 #include <QMainWindow>
@@ -85,6 +86,11 @@ public slots:
     void sine_saveTXTFile();
     void sine_saveCSVFile();
     void tab_Index_Changed(int index);
+    // "&Export picture ...", an addition just above each tab's "&Exit".
+    void roots_exportPicture();
+    void pentagon_exportPicture();
+    void asso_exportPicture();
+    void sine_exportPicture();
     // "&Inspector ...", an addition at the end of every tab's last tool menu.
     void popInspectorWindow();
     // The target of every "&Exit" entry: closes this window and every auxiliary window.
@@ -105,6 +111,10 @@ private:
     void setUpInspector();
     void connectSinePanel();
     void enableActionFor(const char* slot);
+    // Asks for a file and a size, then writes the picture `describe` gives, laid out from a
+    // view of `referenceSize`; `viewSize` is the size the tab shows it at now.
+    void exportPicture(const quillon::PictureDescriber& describe, QSize viewSize,
+                       QSize referenceSize);
     GraphicsView* attachPlotView(QWidget* placeholder, QGraphicsScene* scene);
     void layOutPages(int width, int height);
     static void layOutPlotPage(QWidget* placeholder, QWidget* panel, GraphicsView* view, int width,

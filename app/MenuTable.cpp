@@ -1,6 +1,7 @@
 #include "app/MenuTable.h"
 
 #include <QObject>
+#include <algorithm>
 #include <cstring>
 
 const char* const kExitSlot = SLOT(closeEvent());
@@ -129,12 +130,25 @@ std::vector<MenuEntry> withInspector(std::vector<MenuEntry> entries, const char*
     return entries;
 }
 
+// "&Export picture ...", added just above "&Exit", where desktop programs keep their exports.
+std::vector<MenuEntry> withPictureExport(std::vector<MenuEntry> entries, const char* slot)
+{
+    const auto exit = std::find_if(entries.begin(), entries.end(), [](const MenuEntry& entry) {
+        return entry.slot != nullptr && std::strcmp(entry.slot, kExitSlot) == 0;
+    });
+    entries.insert(exit, {"&File", "&Export picture ...",
+                          "Export what the tab shows as a PNG or SVG picture", NoKey, slot});
+    return entries;
+}
+
 } // namespace
 
 const std::vector<MenuEntry>& menuTable(TabIndex tab)
 {
     static const std::vector<MenuEntry> tables[TabCount] = {
-        withInspector(rootsMenus(), "&Examples"), withInspector(pentagonMenus(), "&Tools"),
-        withInspector(assoMenus(), "&Tools"), withInspector(sineMenus(), "&Tools")};
+        withInspector(withPictureExport(rootsMenus(), SLOT(roots_exportPicture())), "&Examples"),
+        withInspector(withPictureExport(pentagonMenus(), SLOT(pentagon_exportPicture())), "&Tools"),
+        withInspector(withPictureExport(assoMenus(), SLOT(asso_exportPicture())), "&Tools"),
+        withInspector(withPictureExport(sineMenus(), SLOT(sine_exportPicture())), "&Tools")};
     return tables[tab];
 }

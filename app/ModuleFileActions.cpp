@@ -86,9 +86,13 @@ void ModuleFileActions::run(FileAction action, QWidget* parent) const
     if (fileName.isEmpty()) {
         return;
     }
-    const QString error = routine(fileName);
+    reportFileOutcome(parent, setup.opensFile, fileName, routine(fileName));
+}
+
+void reportFileOutcome(QWidget* parent, bool opened, const QString& fileName, const QString& error)
+{
     if (error.isEmpty()) {
-        std::printf("%s file %s done\n", setup.opensFile ? "open" : "save",
+        std::printf("%s file %s done\n", opened ? "open" : "save",
                     fileName.toLocal8Bit().constData());
         std::fflush(stdout);
         return;

@@ -37,6 +37,10 @@ struct FileDialogSetup {
 
 const FileDialogSetup& fileDialogSetup(FileAction action);
 
+// Tells the user how a file routine went: an "open file ... done" or "save file ... done" line
+// on standard output, or the failure in a message box and on standard error.
+void reportFileOutcome(QWidget* parent, bool opened, const QString& fileName, const QString& error);
+
 // The modules' file routines, one per action, and the one dialog that all of them share.
 class ModuleFileActions
 {

@@ -456,7 +456,7 @@ AssoPlotState AssoOpenGLScene::plotState() const
     state.checkedImage = checkedImage;
     state.uncheckedImage = uncheckedImage;
     state.formulaImages = formulaImages;
-    state.indexLabels = &indexLabels;
+    state.indexLabels = indexLabels;
     return state;
 }
 

@@ -378,11 +378,10 @@ quillon::PlotPicture assoFinishedPicture(float r, float x0, int n, const AssoCol
 {
     AssoSequences sequences;
     computeSequences(r, x0, n, sequences);
-    quillon::IndexLabels labels(quillon::plotOverlayFont());
     AssoPlotState state;
     state.results = &sequences;
     state.colours = colours;
-    state.indexLabels = &labels;
+    state.indexLabels = std::make_shared<quillon::IndexLabels>(quillon::plotOverlayFont());
     state.loadImages();
     state.view.count = n;
     const int last = std::max(n - 1, 1);

@@ -9,6 +9,7 @@
 #include <QPointF>
 #include <QRectF>
 #include <array>
+#include <memory>
 #include <optional>
 
 namespace quillon
@@ -50,7 +51,7 @@ struct AssoPlotState {
     QImage uncheckedImage;
     std::array<QImage, kAssoOrderCount> formulaImages;
     // The index labels' texts and widths, kept between frames.
-    quillon::IndexLabels* indexLabels = nullptr;
+    std::shared_ptr<quillon::IndexLabels> indexLabels;
 
     // The images as the tab loads them.
     void loadImages();

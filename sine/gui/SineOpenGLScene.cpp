@@ -734,8 +734,8 @@ void SineOpenGLScene::drawXIndices(QPainter* painter) const
     painter->setPen(Qt::darkBlue);
     for (int i = std::max(window.start, 0); i <= window.end && i < N; ++i) {
         if (window.displays(i)) {
-            const float x = nodePixelX(i) - float(indexLabels.width(i)) / 2.0f;
-            painter->drawStaticText(QPointF(x, 2.0), indexLabels.staticText(i));
+            const float x = nodePixelX(i) - float(indexLabels->width(i)) / 2.0f;
+            painter->drawStaticText(QPointF(x, 2.0), indexLabels->staticText(i));
         }
     }
 }
