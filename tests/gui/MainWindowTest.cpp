@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 #include "app/GraphicsView.h"
+#include "app/PictureExportDialog.h"
 #include "assoc/gui/AssoColorMap.h"
 #include "assoc/gui/AssoFocusWindow.h"
 #include "assoc/gui/AssoHelpWindow.h"
@@ -118,6 +119,17 @@ const QList<Expected> kSineMenus = {
 
 // The described entries with the one Quillon adds, "&Inspector ...", after the last entry of
 // `menu` (each tab's last tool menu).
+// "&Export picture ...", added just above "&Exit".
+QList<Expected> withPictureExport(QList<Expected> entries)
+{
+    const auto exit = std::find_if(entries.begin(), entries.end(), [](const Expected& entry) {
+        return QByteArray(entry.text) == "&Exit";
+    });
+    entries.insert(exit, {"&File", "&Export picture ...",
+                          "Export what the tab shows as a PNG or SVG picture", None});
+    return entries;
+}
+
 QList<Expected> withInspector(QList<Expected> entries, const char* menu)
 {
     qsizetype last = 0;
@@ -204,6 +216,7 @@ struct EntryEffect {
     FileAction file = FileAction::Count;
     QStringList exampleFields;
     bool exits = false;
+    bool asksForPicture = false;
 };
 
 template <typename Window> std::function<bool(const QWidget*)> windowOf()
@@ -227,6 +240,8 @@ EntryEffect loadsExample(const char* text, QStringList fields)
 }
 
 const EntryEffect kExit{"&File", "&Exit", {}, FileAction::Count, {}, true};
+const EntryEffect kExportPicture{"&File", "&Export picture ...", {}, FileAction::Count, {}, false,
+                                 true};
 
 QList<EntryEffect> entryEffects(int tab)
 {
@@ -239,6 +254,7 @@ QList<EntryEffect> entryEffects(int tab)
                 shows("&Examples", "&Inspector ...", windowOf<InspectorWindow>()),
                 shows("&Help", "&About ...", windowOf<RootsHelpWindow>()),
                 shows("&Help", "&Help ...", windowOf<RootsUserMenu>()),
+                kExportPicture,
                 kExit};
     case PentagonTab:
         return {asksForFile("&Open a configuration file ...", FileAction::PentagonOpen),
@@ -250,6 +266,7 @@ QList<EntryEffect> entryEffects(int tab)
                 shows("&Tools", "&Inspector ...", windowOf<InspectorWindow>()),
                 shows("&Help", "&About ...", windowOf<PentagonHelpWindow>()),
                 shows("&Help", "&Help ...", windowOf<PentagonUserMenu>()),
+                kExportPicture,
                 kExit};
     case AssoTab:
         return {asksForFile("&Open a configuration file ...", FileAction::AssoOpen),
@@ -262,6 +279,7 @@ QList<EntryEffect> entryEffects(int tab)
                 shows("&Tools", "&Inspector ...", windowOf<InspectorWindow>()),
                 shows("&Help", "&About ...", windowOf<AssoHelpWindow>()),
                 shows("&Help", "&Help ...", windowOf<AssoUserMenu>()),
+                kExportPicture,
                 kExit};
     default:
         return {asksForFile("&Open a configuration file ...", FileAction::SineOpen),
@@ -275,6 +293,7 @@ QList<EntryEffect> entryEffects(int tab)
                 shows("&Tools", "&Inspector ...", windowOf<InspectorWindow>()),
                 shows("&Help", "&About ...", windowOf<SineHelpWindow>()),
                 shows("&Help", "&Help ...", windowOf<SineUserMenu>()),
+                kExportPicture,
                 kExit};
     }
 }
@@ -363,10 +382,10 @@ void MainWindowTest::menuBarMatchesEachTab_data()
 {
     QTest::addColumn<int>("tab");
     QTest::addColumn<QList<Expected>>("expected");
-    QTest::newRow("Roots") << 0 << withInspector(kRootsMenus, "&Examples");
-    QTest::newRow("Pentagon") << 1 << withInspector(kPentagonMenus, "&Tools");
-    QTest::newRow("Associative Law") << 2 << withInspector(kAssoMenus, "&Tools");
-    QTest::newRow("Sine") << 3 << withInspector(kSineMenus, "&Tools");
+    QTest::newRow("Roots") << 0 << withInspector(withPictureExport(kRootsMenus), "&Examples");
+    QTest::newRow("Pentagon") << 1 << withInspector(withPictureExport(kPentagonMenus), "&Tools");
+    QTest::newRow("Associative Law") << 2 << withInspector(withPictureExport(kAssoMenus), "&Tools");
+    QTest::newRow("Sine") << 3 << withInspector(withPictureExport(kSineMenus), "&Tools");
 }
 
 void MainWindowTest::menuBarMatchesEachTab()
@@ -478,6 +497,14 @@ void MainWindowTest::everyEntryHasSomethingBehindIt()
                 QCOMPARE(handed.size(), 1);
                 QCOMPARE(int(handed.first().first), int(effect->file));
                 QCOMPARE(handed.first().second, path);
+            } else if (effect->asksForPicture) {
+                bool asked = false;
+                answerNextModalDialog([&](QWidget* shownDialog) {
+                    asked = qobject_cast<PictureExportDialog*>(shownDialog) != nullptr;
+                    shownDialog->close();
+                });
+                action->trigger();
+                QVERIFY2(asked, qPrintable(where));
             } else if (!effect->exampleFields.isEmpty()) {
                 action->trigger();
                 const char* fields[] = {"roots_a_value", "roots_b_value", "roots_c_value"};
