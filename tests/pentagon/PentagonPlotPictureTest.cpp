@@ -392,14 +392,15 @@ void PentagonPlotPictureTest::failedStepShowsItsMessageCentred()
     QCOMPARE(message.baseline.x() + width / 2, 400.0);
 }
 
-// After an In and an Out from the Default pentagon: three pentagons, the initial one red, the
-// In's grey 8, the newest blue, in a square box around all their points with 5% to spare on
-// each side of the larger extent; no labels, grid lines or message.
+// After an Out and an In from the Default pentagon: three pentagons, the initial one red, the
+// Out's grey 8, the newest blue, in a square box around all their points (the Out's reach
+// beyond the initial pentagon's) with 5% to spare on each side of the larger extent; no
+// labels, grid lines or message.
 void PentagonPlotPictureTest::finishedPictureDrawsTheWholeHistoryFitted()
 {
     PentagonEngine engine;
-    engine.in();
     engine.out();
+    engine.in();
     const quillon::PlotPicture picture =
         pentagonFinishedPicture(engine, PentagonColorSettings{}, quillon::kDefaultPlotViewSize);
     QCOMPARE(picture.size, quillon::kDefaultPlotViewSize);
