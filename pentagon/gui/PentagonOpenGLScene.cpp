@@ -1,27 +1,22 @@
 #include "pentagon/gui/PentagonOpenGLScene.h"
 
 #include "common/core/CFormat.h"
-#include "common/core/PlotXWindow.h"
 #include "common/gui/FileRoutines.h"
-#include "common/gui/GlPlotFrame.h"
-#include "common/gui/PlotOverlay.h"
+#include "common/gui/GlPlotRenderer.h"
+#include "common/picture/PlotPainter.h"
 #include "pentagon/engine/PentagonView.h"
 #include "pentagon/gui/PentagonFocusWindow.h"
 #include "pentagon/gui/PentagonMiniMap.h"
 #include "pentagon/gui/PentagonMiniScene.h"
+#include "pentagon/picture/PentagonPlotPicture.h"
 
-#include <GL/gl.h>
-#include <QFontMetrics>
 #include <QGraphicsSceneMouseEvent>
 #include <QGraphicsView>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
-#include <cstring>
-#include <unordered_set>
 
 namespace
 {
@@ -40,46 +35,6 @@ constexpr EpsilonPreset kEpsilonPresets[6] = {
 // The Default pentagon of the animated example is built with this epsilon, whichever of the
 // six the panel shows.
 constexpr float kAnimationEpsilon = 0.175f;
-
-// One segment of a drawn pentagon, -0 read as +0 (both give the same pixels).
-struct Segment {
-    float x1;
-    float y1;
-    float x2;
-    float y2;
-
-    Segment(float x1, float y1, float x2, float y2)
-        : x1(x1 + 0.0f), y1(y1 + 0.0f), x2(x2 + 0.0f), y2(y2 + 0.0f)
-    {
-    }
-    friend bool operator==(const Segment& a, const Segment& b)
-    {
-        return a.x1 == b.x1 && a.y1 == b.y1 && a.x2 == b.x2 && a.y2 == b.y2;
-    }
-};
-
-struct SegmentHash {
-    size_t operator()(const Segment& segment) const
-    {
-        size_t hash = 0;
-        for (const float value : {segment.x1, segment.y1, segment.x2, segment.y2}) {
-            uint32_t bits = 0;
-            std::memcpy(&bits, &value, sizeof bits);
-            hash = hash * 1000003u ^ bits;
-        }
-        return hash;
-    }
-};
-
-void glColor(const quillon::ColorTriple& color)
-{
-    glColor3f(color.redF(), color.greenF(), color.blueF());
-}
-
-QString labelText(float value)
-{
-    return QString::fromStdString(quillon::cformat("%.2e", double(value)));
-}
 
 } // namespace
 
@@ -553,8 +508,7 @@ void PentagonOpenGLScene::mouseReleaseEvent(QGraphicsSceneMouseEvent* event)
 
 QPointF PentagonOpenGLScene::pixelOf(float x, float y) const
 {
-    return QPointF(float(viewWidth) * (x - xMin) / (xMax - xMin),
-                   float(viewHeight) * (yMax - y) / (yMax - yMin));
+    return pentagonViewPixel(range(), currentViewSize(), x, y);
 }
 
 std::optional<quillon::PlotNode> PentagonOpenGLScene::vertexNear(QPointF position,
@@ -578,180 +532,55 @@ void PentagonOpenGLScene::markVertex(std::optional<quillon::PlotNode> vertex)
     repaint();
 }
 
-// A black ring around the vertex the inspector shows, while its pentagon is in the history.
-void PentagonOpenGLScene::drawVertexMark(QPainter* painter) const
+// The frame as the scene holds it, for a view of `size`: the drag, kept in the current view's
+// pixels, moves with the scale.
+PentagonPlotState PentagonOpenGLScene::plotState(QSize size) const
 {
-    const std::vector<PentagonPoints> valid = geometry.validPentagons();
-    if (markedVertex && size_t(markedVertex->curve) < valid.size()) {
-        const PentagonPoints& pentagon = valid[size_t(markedVertex->curve)];
-        quillon::drawPlotNodeRing(
-            painter, pixelOf(pentagon.x(markedVertex->index), pentagon.y(markedVertex->index)));
+    PentagonPlotState state = pentagonPlotStateFor(geometry, *colorSettings);
+    state.selectionMode = selectionMode;
+    if (selectionMode) {
+        for (size_t n = 0; n < state.pentagons.size(); ++n) {
+            state.selected.push_back(isSelected(n));
+        }
     }
+    state.range = range();
+    state.showXIndices = showXIndices;
+    state.showYIndices = showYIndices;
+    state.showXAxis = showXAxis;
+    state.showYAxis = showYAxis;
+    if (pressPos.x() >= 0 && pressPos.y() >= 0) {
+        const double scaleX = viewWidth > 0 ? double(size.width()) / viewWidth : 1.0;
+        const double scaleY = viewHeight > 0 ? double(size.height()) / viewHeight : 1.0;
+        const auto scaled = [&](QPointF point) {
+            return QPointF(point.x() * scaleX, point.y() * scaleY);
+        };
+        state.rubberBand = QRectF(scaled(pressPos), scaled(mousePos));
+    }
+    state.markedVertex = markedVertex;
+    return state;
+}
+
+quillon::PlotPicture PentagonOpenGLScene::picture(QSize viewSize, quillon::PictureUse use) const
+{
+    return describePentagonPlot(plotState(viewSize), viewSize, use);
 }
 
 void PentagonOpenGLScene::drawBackground(QPainter* painter, const QRectF& rect)
 {
     viewWidth = int(rect.width());
     viewHeight = int(rect.height());
-    quillon::GlPlotFrame frame(painter);
-    frame.clearToWhite();
-    frame.lookAtOrthographic(xMin, xMax, yMin, yMax);
-    if (!selectionMode && geometry.isEnteringPoints()) {
-        drawEnteredPoints();
-    } else {
-        drawHistory();
-    }
+    quillon::drawPlotBackgroundGl(painter, pentagonPlotBackground(plotState(currentViewSize())));
 }
 
-// Only the points: no lines join them while a pentagon is being entered.
-void PentagonOpenGLScene::drawEnteredPoints() const
-{
-    glPointSize(float(colorSettings->pointSize));
-    glBegin(GL_POINTS);
-    const PentagonPoints& points = geometry.getCurrentPoints();
-    for (int k = 1; k <= geometry.getUserPointCount(); ++k) {
-        glColor(colorSettings->colors[size_t(k - 1)]);
-        glVertex3f(points.x(k), points.y(k), 1.0f);
-    }
-    glEnd();
-    glColor(colorSettings->colors[5]);
-    glLineWidth(float(colorSettings->lineWidth));
-}
-
-// Every drawn pentagon with its five edges and five diagonals: the initial one in its colour,
-// the newest in the current colour, older ones in greys that lighten with age.
-void PentagonOpenGLScene::drawHistory() const
-{
-    const std::vector<PentagonPoints> valid = geometry.validPentagons();
-    const int count = int(geometry.getHistory().size());
-    // Every pentagon lies at the same depth, so on each pixel the first segment drawn there
-    // wins and a segment drawn again at the same coordinates adds nothing. In and Out pairs
-    // soon cycle through a few pentagons, so a long history is mostly such repeats.
-    std::unordered_set<Segment, SegmentHash> drawn;
-    glLineWidth(float(colorSettings->lineWidth));
-    glBegin(GL_LINES);
-    for (int n = 0; n < int(valid.size()); ++n) {
-        if (selectionMode && !isSelected(size_t(n))) {
-            continue;
-        }
-        const int age = count - n - 1;
-        if (n == 0) {
-            glColor(colorSettings->colors[5]);
-        } else if (age == 0) {
-            glColor(colorSettings->colors[6]);
-        } else {
-            const float grey = float(pentagonGreyForAge(age)) / 255.0f;
-            glColor3f(grey, grey, grey);
-        }
-        const PentagonPoints& pentagon = valid[size_t(n)];
-        // Each of the ten segments once: a pair drawn the other way round, or a point joined
-        // to itself, adds no pixel of another colour.
-        for (int i = 1; i <= 5; ++i) {
-            for (int j = i + 1; j <= 5; ++j) {
-                if (drawn.emplace(pentagon.x(i), pentagon.y(i), pentagon.x(j), pentagon.y(j))
-                        .second) {
-                    glVertex3f(pentagon.x(i), pentagon.y(i), 0.0f);
-                    glVertex3f(pentagon.x(j), pentagon.y(j), 0.0f);
-                }
-            }
-        }
-    }
-    glEnd();
-}
-
+// Described again rather than kept from the background pass: a foreground pass may come alone
+// (a painter on another device), and it must show the state as it is now.
 void PentagonOpenGLScene::drawForeground(QPainter* painter, const QRectF&)
 {
-    if (pressPos.x() >= 0 && pressPos.y() >= 0) {
-        painter->setPen(Qt::black);
-        const QRectF band(pressPos, mousePos);
-        painter->drawLine(band.topLeft(), band.topRight());
-        painter->drawLine(band.topRight(), band.bottomRight());
-        painter->drawLine(band.bottomRight(), band.bottomLeft());
-        painter->drawLine(band.bottomLeft(), band.topLeft());
-    }
-    if (showXIndices) {
-        drawXLabels(painter);
-    }
-    if (showYIndices) {
-        quillon::drawPlotValueLabels(painter, yMin, yMax, viewHeight);
-    }
-    if (showXAxis) {
-        drawVerticalGridLines(painter);
-    }
-    if (showYAxis) {
-        drawHorizontalGridLines(painter);
-    }
-    drawVertexMark(painter);
-    if (geometry.hasFailed()) {
-        drawErrorMessage(painter);
-    }
-}
-
-// An x value's grid line stands half its label's width right of the value's position.
-float PentagonOpenGLScene::verticalGridLineX(float value) const
-{
-    const QFontMetrics metrics(quillon::plotOverlayFont());
-    return float(viewWidth) * (value - xMin) / (xMax - xMin) +
-           float(metrics.horizontalAdvance(labelText(value))) / 2.0f;
-}
-
-// Along the bottom, each label turned by 90 degrees about its anchor so that it reads upwards,
-// and centred on its value's grid line: a student reads each line's value from the label the
-// line runs through.
-void PentagonOpenGLScene::drawXLabels(QPainter* painter) const
-{
-    const QFont font = quillon::plotOverlayFont();
-    const QFontMetricsF metrics(font);
-    painter->setFont(font);
-    painter->setPen(Qt::darkMagenta);
-    for (int i = 0; i < quillon::kPlotGridLines; ++i) {
-        const float value = quillon::plotGridValue(i, xMin, xMax);
-        const QString text = labelText(value);
-        // Turned upwards, the text's height lies across the view: its ink, from the top of the
-        // glyphs to their bottom, runs from anchor + top to anchor + bottom.
-        const double anchor =
-            double(verticalGridLineX(value)) - metrics.tightBoundingRect(text).center().y();
-        painter->save();
-        painter->translate(QPointF(anchor, viewHeight));
-        painter->rotate(-90);
-        painter->drawText(QPointF(0, 0), text);
-        painter->restore();
-    }
-}
-
-// Each line runs through the middle of its turned label.
-void PentagonOpenGLScene::drawVerticalGridLines(QPainter* painter) const
-{
-    painter->setPen(Qt::darkMagenta);
-    for (int i = 0; i < quillon::kPlotGridLines; ++i) {
-        const float x = verticalGridLineX(quillon::plotGridValue(i, xMin, xMax));
-        painter->drawLine(QPointF(x, 0), QPointF(x, viewHeight));
-    }
-}
-
-void PentagonOpenGLScene::drawHorizontalGridLines(QPainter* painter) const
-{
-    painter->setPen(Qt::darkMagenta);
-    for (int i = 0; i < quillon::kPlotGridLines; ++i) {
-        const float value = quillon::plotGridValue(i, yMin, yMax);
-        const float y = float(viewHeight) * (yMax - value) / (yMax - yMin);
-        painter->drawLine(QPointF(0, y), QPointF(viewWidth, y));
-    }
-}
-
-// The failed step's message in red, 20 point bold "times", centred in the plot.
-void PentagonOpenGLScene::drawErrorMessage(QPainter* painter) const
-{
-    QFont font(QStringLiteral("times"), 20);
-    font.setWeight(QFont::Bold);
-    painter->setFont(font);
-    painter->setPen(QColor(255, 0, 0));
-    // The message without its line break (its blank before the break stays).
-    const QString message =
-        QString::fromLatin1(pentagonStatusMessage(geometry.lastStatus())).chopped(1);
-    const QFontMetrics metrics(font);
-    const float x = (float(viewWidth) - float(metrics.horizontalAdvance(message))) / 2.0f;
-    painter->drawText(QPointF(x, float(viewHeight) / 2.0f), message);
+    quillon::PlotPicture frame;
+    frame.size = currentViewSize();
+    frame.overlay =
+        pentagonPlotOverlay(plotState(frame.size), frame.size, quillon::PictureUse::Screen);
+    quillon::paintPlotOverlay(painter, frame);
 }
 
 QString PentagonOpenGLScene::loadConfiguration(const QString& path)

@@ -2,12 +2,15 @@
 
 #include "common/gui/OpenGLPlotScene.h"
 #include "common/picture/PlotNodePick.h"
+#include "common/picture/PlotPicture.h"
 #include "pentagon/engine/PentagonEngine.h"
 #include "pentagon/engine/PentagonFiles.h"
 #include "pentagon/gui/PentagonPanel.h"
+#include "pentagon/picture/PentagonPlotState.h"
 
 #include <QPointF>
 #include <QPointer>
+#include <QSize>
 #include <QString>
 #include <functional>
 #include <optional>
@@ -16,10 +19,11 @@
 class PentagonFocusWindow;
 class PentagonMiniMap;
 
-// The pentagon tab's plot: every valid pentagon of the In/Out history, drawn with OpenGL in
-// colours that fade with age, the points of a pentagon being entered by mouse, value labels,
-// grid lines and the failed step's message. It owns the engine and the tab's modes (animated
-// example, built-in example, manual entry) and runs the animation on the main window's timer.
+// The pentagon tab's plot: every valid pentagon of the In/Out history in colours that fade
+// with age, the points of a pentagon being entered by mouse, value labels, grid lines and the
+// failed step's message, described by pentagon_picture and drawn with OpenGL and the painter.
+// It owns the engine and the tab's modes (animated example, built-in example, manual entry)
+// and runs the animation on the main window's timer.
 class PentagonOpenGLScene : public quillon::OpenGLPlotScene
 {
     Q_OBJECT
@@ -62,6 +66,9 @@ public:
     // The "Region focus" window, whose fields updateXmin() .. XYapply() read and which shows
     // the range whenever it is fitted.
     void setFocusWindow(PentagonFocusWindow* window);
+
+    // What the view shows now, laid out for a view of `viewSize`.
+    quillon::PlotPicture picture(QSize viewSize, quillon::PictureUse use) const;
 
     // The file routines: each returns a one-line reason when it failed (changing nothing).
     QString loadConfiguration(const QString& path);
@@ -124,14 +131,9 @@ private:
     std::vector<PentagonPoints> drawnPentagons() const;
     std::vector<PentagonPoints> selectedPentagons() const;
     PentagonRange fittedRange() const;
-    void drawEnteredPoints() const;
-    void drawHistory() const;
-    float verticalGridLineX(float value) const;
-    void drawXLabels(QPainter* painter) const;
-    void drawVerticalGridLines(QPainter* painter) const;
-    void drawHorizontalGridLines(QPainter* painter) const;
-    void drawErrorMessage(QPainter* painter) const;
-    void drawVertexMark(QPainter* painter) const;
+    // The size of the view as the last background pass found it.
+    QSize currentViewSize() const { return QSize(viewWidth, viewHeight); }
+    PentagonPlotState plotState(QSize size) const;
     QPointF pixelOf(float x, float y) const;
 
     PentagonPanel panel;

@@ -109,6 +109,7 @@ private slots:
     void toleranceAfterRegularBuildsTheDefaultShape();
     void timerDrivesTheAnimationEvery400ms();
     void dragZoomsAndRightClickRefits();
+    void pictureOfTheViewScalesTheDragAndFilesLeaveItOut();
     void labelsAndGridLines();
     void xGridLinesRunThroughTheMiddleOfTheirLabels();
     void focusWindowShowsAndSetsTheRange();
@@ -568,6 +569,32 @@ void PentagonTabTest::dragZoomsAndRightClickRefits()
     for (const float bound : {fitted.xMax, scene->range().xMax, scene->range().yMax}) {
         QCOMPARE(bitsOf(bound), 0x3F93D70Au);
     }
+}
+
+// The view's picture at twice its size while a drag is on: the drag's rectangle from the press
+// (100, 80) to the pointer (300, 200), each corner twice as far from the view's corner; a
+// file's picture leaves the drag out. The plot is the one on screen: the Default pentagon's
+// ten segments in the range the view shows.
+void PentagonTabTest::pictureOfTheViewScalesTheDragAndFilesLeaveItOut()
+{
+    const QSize doubled = view->viewport()->size() * 2;
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, QPoint(100, 80));
+    QTest::mouseMove(view->viewport(), QPoint(300, 200));
+    const quillon::PlotPicture screen = scene->picture(doubled, quillon::PictureUse::Screen);
+    QCOMPARE(screen.size, doubled);
+    QCOMPARE(screen.overlay.size(), size_t(1));
+    const auto* band = std::get_if<quillon::PlotLines>(&screen.overlay.front());
+    QVERIFY(band != nullptr);
+    const std::vector<QLineF> edges = {QLineF(200, 160, 600, 160), QLineF(600, 160, 600, 400),
+                                       QLineF(600, 400, 200, 400), QLineF(200, 400, 200, 160)};
+    QCOMPARE(band->lines, edges);
+    const quillon::PlotPicture file = scene->picture(doubled, quillon::PictureUse::File);
+    QVERIFY(file.overlay.empty());
+    QCOMPARE(file.background.left, double(scene->range().xMin));
+    QCOMPARE(file.background.top, double(scene->range().yMax));
+    QCOMPARE(file.background.strokes.size(), size_t(1));
+    QCOMPARE(file.background.strokes.front().vertices.size(), size_t(20));
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, QPoint(300, 200));
 }
 
 void PentagonTabTest::labelsAndGridLines()
