@@ -138,6 +138,7 @@ void MainWindow::setUpPentagonTab()
                    [scene](const QString& name) { return scene->saveConfiguration(name); });
     setFileRoutine(FileAction::PentagonSaveTxt,
                    [scene](const QString& name) { return scene->saveHistoryText(name); });
+    enableActionFor(SLOT(pentagon_exportPicture()));
     pentagonTimer = new QTimer(this);
     pentagonTimer->setObjectName(QStringLiteral("pentagon_timer"));
     connect(pentagonTimer, &QTimer::timeout, scene, &PentagonOpenGLScene::runningMan);
@@ -336,7 +337,11 @@ void MainWindow::exportPicture(const quillon::PictureDescriber& describe, QSize 
 
 void MainWindow::roots_exportPicture() {}
 
-void MainWindow::pentagon_exportPicture() {}
+void MainWindow::pentagon_exportPicture()
+{
+    exportPicture(filePictureOf(pentagonScene), pentagonView->viewport()->size(),
+                  quillon::kDefaultPlotViewSize);
+}
 
 void MainWindow::asso_exportPicture()
 {

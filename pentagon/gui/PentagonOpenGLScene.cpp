@@ -576,11 +576,9 @@ void PentagonOpenGLScene::drawBackground(QPainter* painter, const QRectF& rect)
 // (a painter on another device), and it must show the state as it is now.
 void PentagonOpenGLScene::drawForeground(QPainter* painter, const QRectF&)
 {
-    quillon::PlotPicture frame;
-    frame.size = currentViewSize();
-    frame.overlay =
-        pentagonPlotOverlay(plotState(frame.size), frame.size, quillon::PictureUse::Screen);
-    quillon::paintPlotOverlay(painter, frame);
+    const QSize size = currentViewSize();
+    quillon::paintPlotOverlay(
+        painter, pentagonPlotOverlay(plotState(size), size, quillon::PictureUse::Screen), size);
 }
 
 QString PentagonOpenGLScene::loadConfiguration(const QString& path)

@@ -3,6 +3,7 @@
 #include "common/core/CFormat.h"
 #include "common/core/PlotXWindow.h"
 #include "common/picture/PlotStyle.h"
+#include "common/picture/QtColor.h"
 #include "pentagon/engine/PentagonView.h"
 
 #include <QFontMetrics>
@@ -46,20 +47,15 @@ struct SegmentHash {
     }
 };
 
-quillon::PlotRgb rgbOf(const quillon::ColorTriple& color)
-{
-    return {color.redF(), color.greenF(), color.blueF()};
-}
-
 // The initial pentagon in its colour, the newest in the current colour, older ones in greys
 // that lighten with age.
 quillon::PlotRgb pentagonColor(const PentagonColorSettings& colours, int n, int age)
 {
     if (n == 0) {
-        return rgbOf(colours.colors[5]);
+        return quillon::toPlotRgb(colours.colors[5]);
     }
     if (age == 0) {
-        return rgbOf(colours.colors[6]);
+        return quillon::toPlotRgb(colours.colors[6]);
     }
     const float grey = float(pentagonGreyForAge(age)) / 255.0f;
     return {grey, grey, grey};
@@ -106,7 +102,7 @@ quillon::PlotStroke enteredPointsStroke(const PentagonPlotState& state)
     stroke.depth = 1.0f;
     for (int k = 1; k <= state.enteredCount; ++k) {
         stroke.vertices.push_back({state.enteredPoints.x(k), state.enteredPoints.y(k),
-                                   rgbOf(state.colours.colors[size_t(k - 1)])});
+                                   quillon::toPlotRgb(state.colours.colors[size_t(k - 1)])});
     }
     return stroke;
 }

@@ -1,7 +1,6 @@
 #include "app/MainWindow.h"
 #include "app/PictureExportDialog.h"
-#include "assoc/gui/AssoOpenGLScene.h"
-#include "sine/gui/SineOpenGLScene.h"
+#include "common/gui/OpenGLPlotScene.h"
 #include "tests/gui/GuiTestSupport.h"
 
 #include <QAction>
@@ -162,13 +161,15 @@ void PictureExportTest::eachTabExportsPngAndSvg()
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     tabsOf(window)->setCurrentIndex(tab);
-    if (tab == 2 || tab == 3) {
-        // A slid-in window: the animation run on by hand.
-        auto* view =
-            window.findChild<QWidget*>(tab == 2 ? "associativelaw_VisWindow" : "sine_VisWindow")
-                ->findChild<QGraphicsView*>();
+    if (tab != 0) {
+        // The animation run on by hand (the pentagon's example to its end, the index plots'
+        // window slid in), its timer stopped so that both pictures show the same frame.
+        const char* placeholders[] = {"", "pentagon_VisWindow", "associativelaw_VisWindow",
+                                      "sine_VisWindow"};
+        const char* timers[] = {"", "pentagon_timer", "associativelaw_timer", "sine_timer"};
+        QGraphicsView* view = showStoppedPlotTab(window, tab, placeholders[tab], timers[tab]);
         QVERIFY(view != nullptr);
-        auto* scene = qobject_cast<quillon::IndexPlotScene*>(view->scene());
+        auto* scene = qobject_cast<quillon::OpenGLPlotScene*>(view->scene());
         scene->setPaused(false);
         for (int tick = 0; tick < 25; ++tick) {
             QMetaObject::invokeMethod(scene, "runningMan");
