@@ -1,4 +1,4 @@
-#include "common/gui/QtColor.h"
+#include "common/picture/QtColor.h"
 
 #include <algorithm>
 
