@@ -29,6 +29,11 @@ inline constexpr const char* kRootsRowNames[kRootsRowCount] = {"b^2",
                                                                "a*x2^2 + b*x2 + c"};
 inline constexpr const char* kRootsVariantNames[kRootsVariantCount] = {
     "Naive Single P.", "Cancellation Single P.", "Naive Double P.", "Naive High P."};
+// The columns' headings as the grid shows them, each on two lines.
+inline constexpr const char* kRootsColumnHeadings[kRootsVariantCount] = {
+    "Naive\nSingle P.", "Cancellation\nSingle P.", "Naive\nDouble P.", "Naive\nHigh P."};
+// The widest text a cell can show: "%.12e" of a negative number with a three-digit exponent.
+inline constexpr const char* kRootsWidestCellText = "-1.234567890123e-100";
 
 // The text of every cell, [row][variant].
 using RootsGrid = std::array<std::array<std::string, kRootsVariantCount>, kRootsRowCount>;

@@ -252,6 +252,11 @@ std::string RootsSolver::cellText(RootsRow row, int variant) const
     }
 }
 
+std::array<std::string, 3> RootsSolver::singleCopyTexts() const
+{
+    return {cformat("%f", double(af)), cformat("%f", double(bf)), cformat("%f", double(cf))};
+}
+
 RootsGrid RootsSolver::showResults() const
 {
     RootsGrid grid;

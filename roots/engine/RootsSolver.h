@@ -4,6 +4,7 @@
 #include "roots/engine/RootsGrid.h"
 #include "roots/engine/RootsQuantity.h"
 
+#include <array>
 #include <cstdio>
 #include <string>
 
@@ -56,6 +57,9 @@ public:
     float singleA() const { return af; }
     float singleB() const { return bf; }
     float singleC() const { return cf; }
+    // a, b and c as their fields show them after the start-up or an example: the
+    // single-precision copies written with "%f".
+    std::array<std::string, 3> singleCopyTexts() const;
 
 private:
     // The first steps of both single-precision variants: the single copies of a, b, c, then

@@ -11,6 +11,7 @@
 #include "roots/engine/RootsCellColors.h"
 #include "roots/engine/RootsFieldRule.h"
 #include "roots/engine/RootsTextExport.h"
+#include "roots/picture/RootsRowHeading.h"
 
 #include <QDoubleValidator>
 #include <QGroupBox>
@@ -34,8 +35,6 @@ const char* const kRowHeadingNames[] = {"roots_solution",    "roots_b2_label",  
 const char* const kCellNamePatterns[] = {
     "roots_solution%1_label", "roots_b2_label_%1", "roots_ac_label_%1",    "roots_sqrt_label_%1",
     "roots_root1_label_%1",   "roots_result1_%1",  "roots_root2_label_%1", "roots_result2_%1"};
-const char* const kColumnHeadings[] = {"Naive\nSingle P.", "Cancellation\nSingle P.",
-                                       "Naive\nDouble P.", "Naive\nHigh P."};
 // A label shown beside a row's heading label: a caption before it or a formula after it.
 struct HeadingCompanion {
     int row;
@@ -48,8 +47,6 @@ const HeadingCompanion kHeadingCompanions[] = {{3, "roots_sqrt_formula", false},
 
 // The page's spacing between blocks and inside groups, in pixels.
 constexpr int kSpacing = 8;
-// The widest text a cell can show: "%.12e" of a negative number with a three-digit exponent.
-const char* const kWidestCellText = "-1.234567890123e-100";
 // The share of a band's width the row headings get at least.
 constexpr double kHeadingShare = 0.18;
 
@@ -146,19 +143,20 @@ void RootsPage::stylePage()
         }
     }
     for (int column = 0; column < kRootsVariantCount; ++column) {
-        grid[0][column + 1]->setText(QString::fromLatin1(kColumnHeadings[column]));
+        grid[0][column + 1]->setText(QString::fromLatin1(kRootsColumnHeadings[column]));
     }
-    const auto showImage = [this](const char* labelName, const char* imageName) {
-        quillon::pageChild<QLabel>(page, QString::fromLatin1(labelName))
-            ->setPixmap(QPixmap(quillon::imagePath(QString::fromLatin1(imageName))));
+    const auto showImage = [](QLabel* label, const char* imageName) {
+        label->setPixmap(QPixmap(quillon::imagePath(QString::fromLatin1(imageName))));
     };
-    showImage("roots_title", "ax2+bx+c=0.png");
-    showImage("roots_b2_label", "b2.png");
-    showImage("roots_ac_label", "4ac.png");
-    showImage("roots_sqrt_formula", "b2-4ac.png");
-    showImage("roots_result1", "ax2+bx+c=.png");
-    showImage("roots_result2", "ax2+bx+c=.png");
-    quillon::pageChild<QLabel>(page, QStringLiteral("roots_title"))->setAlignment(Qt::AlignCenter);
+    auto* title = quillon::pageChild<QLabel>(page, QStringLiteral("roots_title"));
+    showImage(title, kRootsEquationImage);
+    title->setAlignment(Qt::AlignCenter);
+    // A row's formula is the last of its heading labels, after any caption.
+    for (int row = 0; row < kRootsRowCount; ++row) {
+        if (const char* image = kRootsRowHeadings[row].image) {
+            showImage(headings[row + 1].back(), image);
+        }
+    }
 }
 
 void RootsPage::readA()
@@ -211,9 +209,10 @@ void RootsPage::useExample(int number)
 
 void RootsPage::writeBackSingleCopies()
 {
-    aValue->setText(QString::fromStdString(cformat("%f", double(rootsSolver.singleA()))));
-    bValue->setText(QString::fromStdString(cformat("%f", double(rootsSolver.singleB()))));
-    cValue->setText(QString::fromStdString(cformat("%f", double(rootsSolver.singleC()))));
+    const std::array<std::string, 3> texts = rootsSolver.singleCopyTexts();
+    aValue->setText(QString::fromStdString(texts[0]));
+    bValue->setText(QString::fromStdString(texts[1]));
+    cValue->setText(QString::fromStdString(texts[2]));
 }
 
 void RootsPage::showResults()
@@ -337,7 +336,7 @@ int RootsPage::headingColumnWidth(int bandWidth) const
     const QFontMetrics metrics = grid[1][1]->fontMetrics();
     const int cellsNeed =
         kRootsVariantCount *
-        (metrics.horizontalAdvance(QString::fromLatin1(kWidestCellText)) + 2 * kSpacing);
+        (metrics.horizontalAdvance(QString::fromLatin1(kRootsWidestCellText)) + 2 * kSpacing);
     return qMax(widestHeading, qMin(int(bandWidth * kHeadingShare), bandWidth - cellsNeed));
 }
 

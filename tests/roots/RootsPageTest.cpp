@@ -2,6 +2,7 @@
 #include "common/gui/GroupBoxStyle.h"
 #include "common/gui/ImageLookup.h"
 #include "roots/engine/RootsFieldRule.h"
+#include "roots/picture/RootsGridPicture.h"
 #include "tests/gui/GuiTestSupport.h"
 #include "tests/roots/GoldenGrid.h"
 
@@ -92,6 +93,7 @@ private slots:
     void validatorsAgreeWithTheCommandLineRule();
     void anyTextThroughCalculateGivesReadableCells();
     void numberFieldsRefuseGroupSeparators();
+    void pictureSizeIsTheOutputBoxOfTheDefaultWindow();
 
 private:
     QLabel* cell(int row, int column) const;
@@ -550,6 +552,15 @@ void RootsPageTest::numberFieldsRefuseGroupSeparators()
     }
     QTest::keyClick(field("roots_b_value"), Qt::Key_Return);
     QCOMPARE(cell(RowB2, 2)->text(), QStringLiteral("1.000000000000e+06"));
+}
+
+// The picture's reference size is the grid as the default window shows it, so that its texts
+// keep the page's proportions.
+void RootsPageTest::pictureSizeIsTheOutputBoxOfTheDefaultWindow()
+{
+    QCOMPARE(window->size(), QSize(1080, 838));
+    QCOMPARE(window->findChild<QWidget*>(QStringLiteral("roots_outputGroup"))->size(),
+             kRootsPictureSize);
 }
 
 QTEST_MAIN(RootsPageTest)
