@@ -102,6 +102,7 @@ void MainWindow::setUpRootsTab()
 {
     rootsPage = std::make_unique<RootsPage>(ui->roots_win);
     installAuxiliaryWindow(AuxWindow::RootsHelp, new RootsHelpWindow(tr("About")));
+    enableActionFor(SLOT(roots_exportPicture()));
     installAuxiliaryWindow(AuxWindow::RootsUserMenu, new RootsUserMenu(tr("Help")));
     connect(ui->roots_a_value, &QLineEdit::returnPressed, this, &MainWindow::roots_updateA);
     connect(ui->roots_b_value, &QLineEdit::returnPressed, this, &MainWindow::roots_updateB);
@@ -335,7 +336,12 @@ void MainWindow::exportPicture(const quillon::PictureDescriber& describe, QSize 
                       quillon::writeWholeFile(fileName, bytes.toStdString()));
 }
 
-void MainWindow::roots_exportPicture() {}
+void MainWindow::roots_exportPicture()
+{
+    const RootsPage* page = rootsPage.get();
+    exportPicture([page](QSize size) { return page->picture(size); }, page->gridSize(),
+                  kRootsPictureSize);
+}
 
 void MainWindow::pentagon_exportPicture()
 {

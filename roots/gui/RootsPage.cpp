@@ -245,6 +245,22 @@ void RootsPage::highlightDifferences()
     page->update();
 }
 
+quillon::PlotPicture RootsPage::picture(QSize viewSize) const
+{
+    RootsCellInks inks;
+    for (int row = 0; row < kRootsRowCount; ++row) {
+        for (int variant = 0; variant < kRootsVariantCount; ++variant) {
+            inks[row][variant] = grid[row + 1][variant + 1]->palette().color(QPalette::WindowText);
+        }
+    }
+    return rootsGridPicture(rootsSolver, viewSize, &inks);
+}
+
+QSize RootsPage::gridSize() const
+{
+    return quillon::pageChild<QWidget>(page, QStringLiteral("roots_outputGroup"))->size();
+}
+
 QString RootsPage::saveTextData(const QString& fileName) const
 {
     return quillon::writeWholeFile(fileName, rootsTextExport(rootsSolver));

@@ -2,6 +2,7 @@
 
 #include "roots/engine/RootsGrid.h"
 #include "roots/engine/RootsSolver.h"
+#include "roots/picture/RootsGridPicture.h"
 
 #include <QList>
 #include <QString>
@@ -28,6 +29,10 @@ public:
     RootsPage& operator=(const RootsPage&) = delete;
 
     const RootsSolver& solver() const { return rootsSolver; }
+    // The grid's picture as the page shows it now (its cells' colours included).
+    quillon::PlotPicture picture(QSize viewSize) const;
+    // The size the grid has on the page now.
+    QSize gridSize() const;
 
     // Enter in a field: read that coefficient, recompute, show.
     void updateA();

@@ -18,7 +18,7 @@ constexpr int kImageDetail = 2;
 class RootsPictureBuilder
 {
 public:
-    RootsPictureBuilder(const RootsSolver& solver, QSize viewSize);
+    RootsPictureBuilder(const RootsSolver& solver, QSize viewSize, const RootsCellInks* shownInks);
 
     quillon::PlotPicture build();
 
@@ -33,6 +33,7 @@ private:
     void addImage(const char* name, const QRectF& target);
 
     const RootsSolver& solver;
+    const RootsCellInks* shownInks;
     RootsGrid texts;
     std::array<QString, 3> coefficients;
     RootsGridLayout layout;
@@ -58,9 +59,10 @@ std::array<QString, 3> coefficientTexts(const RootsSolver& solver)
             QStringLiteral("c = ") + QString::fromStdString(values[2])};
 }
 
-RootsPictureBuilder::RootsPictureBuilder(const RootsSolver& solver, QSize viewSize)
-    : solver(solver), texts(solver.showResults()), coefficients(coefficientTexts(solver)),
-      layout(viewSize, allCellTexts(texts), coefficients)
+RootsPictureBuilder::RootsPictureBuilder(const RootsSolver& solver, QSize viewSize,
+                                         const RootsCellInks* shownInks)
+    : solver(solver), shownInks(shownInks), texts(solver.showResults()),
+      coefficients(coefficientTexts(solver)), layout(viewSize, allCellTexts(texts), coefficients)
 {
     picture.size = viewSize;
 }
@@ -153,8 +155,9 @@ void RootsPictureBuilder::addHeadings()
     }
 }
 
-// Each cell's text in its ink: the highlight colour of its row's agreement class in the three
-// compared columns, black where the class leaves the colour alone and in the 256-bit column.
+// Each cell's text in its ink: the page's, or the highlight colour of its row's agreement class
+// in the three compared columns, black where the class leaves the colour alone and in the
+// 256-bit column.
 void RootsPictureBuilder::addCells()
 {
     const RootsAgreements agreements = solver.classifyRows();
@@ -162,7 +165,9 @@ void RootsPictureBuilder::addCells()
     for (int row = 0; row < kRootsRowCount; ++row) {
         for (int variant = 0; variant < kRootsVariantCount; ++variant) {
             QColor ink = Qt::black;
-            if (variant < 3) {
+            if (shownInks != nullptr) {
+                ink = (*shownInks)[row][variant];
+            } else if (variant < 3) {
                 ink = quillon::toQColor(
                     rootsCellInk(agreements[row], variant).value_or(quillon::ColorTriple{0, 0, 0}));
             }
@@ -174,7 +179,8 @@ void RootsPictureBuilder::addCells()
 
 } // namespace
 
-quillon::PlotPicture rootsGridPicture(const RootsSolver& solver, QSize viewSize)
+quillon::PlotPicture rootsGridPicture(const RootsSolver& solver, QSize viewSize,
+                                      const RootsCellInks* shownInks)
 {
-    return RootsPictureBuilder(solver, viewSize).build();
+    return RootsPictureBuilder(solver, viewSize, shownInks).build();
 }

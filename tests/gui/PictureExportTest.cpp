@@ -32,6 +32,7 @@ private slots:
     void eachTabExportsPngAndSvg();
     void aNameWithoutPictureSuffixKeepsTheDialogOpen();
     void cancellingWritesNothing();
+    void rootsPictureShowsTheCellsInThePagesColours();
 
 private:
     QString folderPath(const QString& name) const;
@@ -143,7 +144,7 @@ void PictureExportTest::eachTabExportsPngAndSvg_data()
     // A text the tab's picture shows, in the SVG as text.
     QTest::addColumn<QString>("text");
     QTest::newRow("Roots") << 0 << "roots"
-                           << "Naive Single P.";
+                           << "Single P.";
     QTest::newRow("Pentagon") << 1 << "pentagon"
                               << "";
     QTest::newRow("Associative Law") << 2 << "associative-law"
@@ -238,6 +239,36 @@ void PictureExportTest::cancellingWritesNothing()
     menuBarAction(window, QStringLiteral("&File"), QStringLiteral("&Export picture ..."))
         ->trigger();
     QVERIFY(!QFile::exists(path));
+}
+
+// A cell keeps its earlier colour on the page in rows whose columns partly agree: the picture
+// takes every cell's colour from the page, so it shows what the page shows.
+void PictureExportTest::rootsPictureShowsTheCellsInThePagesColours()
+{
+    MainWindow window;
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto* cell = window.findChild<QLabel*>(QStringLiteral("roots_result1_2"));
+    QVERIFY(cell != nullptr);
+    QPalette palette = cell->palette();
+    palette.setColor(QPalette::All, QPalette::WindowText, QColor(1, 2, 3));
+    cell->setPalette(palette);
+    const QString svg = folderPath(QStringLiteral("roots-inks.svg"));
+    QVERIFY(exportThroughMenu(window, svg));
+    QFile file(svg);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QXmlStreamReader reader(&file);
+    QStringList inked;
+    QString fill;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isStartElement() && reader.attributes().hasAttribute(QStringLiteral("fill"))) {
+            fill = reader.attributes().value(QStringLiteral("fill")).toString();
+        } else if (reader.isCharacters() && !reader.isWhitespace() && fill == "#010203") {
+            inked << reader.text().toString();
+        }
+    }
+    QCOMPARE(inked, QStringList{cell->text()});
 }
 
 QTEST_MAIN(PictureExportTest)
