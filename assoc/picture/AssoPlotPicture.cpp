@@ -378,11 +378,15 @@ quillon::PlotPicture assoFinishedPicture(float r, float x0, int n, const AssoCol
 {
     AssoSequences sequences;
     computeSequences(r, x0, n, sequences);
-    quillon::IndexLabels labels(quillon::plotOverlayFont());
+    // The picture's index labels point at the labels they were made from, so those must
+    // outlive it, as the scene's own labels outlive its frames: made on the first picture and
+    // kept for the run (never destroyed, so no font outlives the application object).
+    static quillon::IndexLabels* const labels =
+        new quillon::IndexLabels(quillon::plotOverlayFont());
     AssoPlotState state;
     state.results = &sequences;
     state.colours = colours;
-    state.indexLabels = &labels;
+    state.indexLabels = labels;
     state.loadImages();
     state.view.count = n;
     const int last = std::max(n - 1, 1);
