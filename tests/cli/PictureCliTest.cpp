@@ -353,3 +353,13 @@ TEST(PictureCli, HelpNamesThePictureOptions)
     }
     EXPECT_TRUE(run.out.contains(QStringLiteral("Default: 795x769")));
 }
+
+TEST(PictureCli, DeviceThatTakesNoBytesIsAFileError)
+{
+    // A device is written directly, not replaced; /dev/full refuses every byte.
+    const CliRun run = assoc({"--png", "/dev/full", "--n", "20"});
+    EXPECT_EQ(run.exitCode, 1);
+    expectOneErrorLine(run, "/dev/full");
+    EXPECT_TRUE(run.err.startsWith(QStringLiteral("quillon-cli assoc: cannot write \"/dev/full\"")))
+        << run.err.toStdString();
+}
