@@ -4,6 +4,7 @@
 
 #include <QCommandLineParser>
 #include <QStringList>
+#include <utility>
 
 namespace
 {
@@ -59,8 +60,9 @@ void PictureOptions::addTo(QCommandLineParser& parser) const
 QString PictureOptions::help(int column) const
 {
     return optionHelp(QStringLiteral("--png FILE"),
-                      QStringLiteral("Draw the view the tab shows for these inputs once its "
-                                     "animation has run to the end into FILE, as a PNG picture."),
+                      QStringLiteral("Draw what the tab shows for these inputs (a plot once "
+                                     "its animation has run to the end) into FILE, as a PNG "
+                                     "picture."),
                       column) +
            optionHelp(QStringLiteral("--svg FILE"), QStringLiteral("Likewise, as an SVG picture."),
                       column) +
