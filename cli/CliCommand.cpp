@@ -3,6 +3,7 @@
 #include "cli/ArgumentText.h"
 #include "cli/StandardOutput.h"
 #include "common/core/SafeFileWriter.h"
+#include "common/core/TextFileReader.h"
 
 #include <QCommandLineParser>
 
@@ -10,6 +11,12 @@ int CliCommand::usageError(const CliStreams& streams, const QString& message) co
 {
     std::fprintf(streams.err, "quillon-cli %s: %s\n", qPrintable(name()), qPrintable(message));
     return ExitUsageError;
+}
+
+int CliCommand::fileError(const CliStreams& streams, const std::string& reason) const
+{
+    std::fprintf(streams.err, "quillon-cli %s: %s\n", qPrintable(name()), reason.c_str());
+    return ExitFileError;
 }
 
 std::optional<int> CliCommand::parseArguments(QCommandLineParser& parser,
@@ -44,8 +51,7 @@ int CliCommand::writeExport(const CliStreams& streams, const QString& path,
 {
     std::string error;
     if (!quillon::writeFileAtomically(path.toStdString(), contents, error)) {
-        std::fprintf(streams.err, "quillon-cli %s: %s\n", qPrintable(name()), error.c_str());
-        return ExitFileError;
+        return fileError(streams, error);
     }
     std::fprintf(streams.err, "save file %s done\n", qPrintable(path));
     return ExitSuccess;
@@ -53,10 +59,11 @@ int CliCommand::writeExport(const CliStreams& streams, const QString& path,
 
 int CliCommand::writeExports(const CliStreams& streams, const QCommandLineParser& parser,
                              const QCommandLineOption& txt, const QCommandLineOption& csv,
-                             const std::string& textExport, const std::string& csvExport) const
+                             const std::string& textExport, const std::string& csvExport,
+                             bool picturesAsked) const
 {
     if (!parser.isSet(txt) && !parser.isSet(csv)) {
-        return writeOutput(streams, csvExport);
+        return picturesAsked ? ExitSuccess : writeOutput(streams, csvExport);
     }
     if (parser.isSet(txt)) {
         if (const int status = writeExport(streams, parser.value(txt), textExport);
@@ -66,6 +73,31 @@ int CliCommand::writeExports(const CliStreams& streams, const QCommandLineParser
     }
     if (parser.isSet(csv)) {
         return writeExport(streams, parser.value(csv), csvExport);
+    }
+    return ExitSuccess;
+}
+
+int CliCommand::writePictures(const CliStreams& streams, const PictureRequest& request,
+                              const quillon::PictureDescriber& describe) const
+{
+    for (const PictureRequest::File& file : request.files) {
+        const QByteArray bytes =
+            quillon::pictureFileBytes(describe, request.size, request.referenceView, file.format);
+        if (const int status = writeExport(streams, file.path, bytes.toStdString());
+            status != ExitSuccess) {
+            return status;
+        }
+    }
+    return ExitSuccess;
+}
+
+int CliCommand::readConfigurationFile(const CliStreams& streams, const QString& path,
+                                      std::string& text) const
+{
+    std::string error;
+    if (!quillon::readTextFile(path.toStdString(), quillon::kMaxConfigurationFileBytes, text,
+                               error)) {
+        return fileError(streams, error);
     }
     return ExitSuccess;
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "cli/PictureOptions.h"
+#include "common/picture/PictureFile.h"
+
 #include <QString>
 #include <QStringList>
 #include <cstdio>
@@ -35,6 +38,10 @@ protected:
     // ExitUsageError, for the common "that input is not valid" exit.
     int usageError(const CliStreams& streams, const QString& message) const;
 
+    // Writes "quillon-cli <name>: <reason>" as one line on the error stream and returns
+    // ExitFileError.
+    int fileError(const CliStreams& streams, const std::string& reason) const;
+
     // Adds -h/--help to `parser` and parses `arguments`. Returns the exit status when the
     // command is done already (help shown, or an unknown option or a stray argument beyond
     // the `positionals` the command takes reported), nothing when it should go on.
@@ -52,9 +59,21 @@ protected:
                     const std::string& contents) const;
 
     // Writes the text export to the file of option `txt` and the comma-separated export to
-    // that of option `csv`, each when given; with neither, the comma-separated export goes to
-    // the output stream. Returns the first failure's status, or ExitSuccess.
+    // that of option `csv`, each when given; with neither, and no picture file asked for
+    // (`picturesAsked`), the comma-separated export goes to the output stream. Returns the
+    // first failure's status, or ExitSuccess.
     int writeExports(const CliStreams& streams, const QCommandLineParser& parser,
                      const QCommandLineOption& txt, const QCommandLineOption& csv,
-                     const std::string& textExport, const std::string& csvExport) const;
+                     const std::string& textExport, const std::string& csvExport,
+                     bool picturesAsked) const;
+
+    // Draws each picture file `request` asks for from `describe` and writes it as writeExport
+    // writes an export. Returns the first failure's status, or ExitSuccess.
+    int writePictures(const CliStreams& streams, const PictureRequest& request,
+                      const quillon::PictureDescriber& describe) const;
+
+    // Reads the beginning of a configuration file (a colour file) into `text`, as the tabs'
+    // File > Open entries do. Returns ExitSuccess, or ExitFileError after a one-line reason.
+    int readConfigurationFile(const CliStreams& streams, const QString& path,
+                              std::string& text) const;
 };

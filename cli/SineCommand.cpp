@@ -76,5 +76,6 @@ int SineCommand::run(const QStringList& arguments, const CliStreams& streams) co
     const int count = parser.isSet(n) ? parser.value(n).toInt() : 300;
     SineResults results;
     computeSine(degrees, count, results);
-    return writeExports(streams, parser, txt, csv, sineTextExport(results), sineCsvExport(results));
+    return writeExports(streams, parser, txt, csv, sineTextExport(results), sineCsvExport(results),
+                        false);
 }

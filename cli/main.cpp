@@ -6,12 +6,36 @@
 #include "cli/StandardOutput.h"
 #include "cli/ValueReportCommand.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+
+namespace
+{
+
+QtMessageHandler qtMessageHandler = nullptr;
+
+// While the application object starts, Qt remarks on the desktop session it finds (such as
+// "XDG_RUNTIME_DIR not set"), which says nothing about quillon-cli's work and would break the
+// rule that an error is one line on standard error; only what stops Qt is passed on.
+void keepStartUpFailuresOnly(QtMsgType type, const QMessageLogContext& context,
+                             const QString& message)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
+        qtMessageHandler(type, context, message);
+    }
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
     prepareStandardStreams();
-    QCoreApplication application(argc, argv);
+    // Pictures need the fonts of a QGuiApplication but no screen: the offscreen platform opens
+    // no display connection and no OpenGL context, whatever DISPLAY or QT_QPA_PLATFORM say,
+    // so quillon-cli draws the same pictures on a server without X.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qtMessageHandler = qInstallMessageHandler(keepStartUpFailuresOnly);
+    QGuiApplication application(argc, argv);
+    qInstallMessageHandler(qtMessageHandler);
     CliRunner runner;
     runner.addCommand(std::make_unique<RootsCommand>());
     runner.addCommand(std::make_unique<AssocCommand>());

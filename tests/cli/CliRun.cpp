@@ -2,6 +2,7 @@
 
 #include "tests/common/FilePermissionsEnforced.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 #include <csignal>
@@ -79,9 +80,35 @@ CliRun CliRun::obeyingFilePermissions(const QStringList& arguments)
     return runToTheEnd(process, arguments);
 }
 
+CliRun CliRun::inEnvironment(const QStringList& arguments, const QProcessEnvironment& environment)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    return runToTheEnd(process, arguments);
+}
+
 QString fileText(const QString& path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll())
                                           : QStringLiteral("<cannot read %1>").arg(path);
+}
+
+QByteArray fileBytes(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll()
+                                          : QStringLiteral("<cannot read %1>").arg(path).toUtf8();
+}
+
+bool writeFileBytes(const QString& path, const QByteArray& bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+}
+
+QStringList folderEntries(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::Hidden |
+                                  QDir::System);
 }

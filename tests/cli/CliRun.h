@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 
@@ -25,8 +26,21 @@ struct CliRun {
     // ignore file permissions (FilePermissionsEnforced), so that a read-only folder stops it
     // whoever runs the tests. If it cannot give them up, it exits with status 126.
     static CliRun obeyingFilePermissions(const QStringList& arguments);
+
+    // Runs like `of`, with `environment` as quillon-cli's whole environment.
+    static CliRun inEnvironment(const QStringList& arguments,
+                                const QProcessEnvironment& environment);
 };
 
 // The whole text of a file, or "<cannot read PATH>" when it cannot be read, so that a
 // comparison with it fails and names the file.
 QString fileText(const QString& path);
+
+// The bytes of a file, or "<cannot read PATH>" when it cannot be read.
+QByteArray fileBytes(const QString& path);
+
+// Writes `bytes` as the whole file at `path`; false when that failed.
+bool writeFileBytes(const QString& path, const QByteArray& bytes);
+
+// The names of everything in `folder`, hidden files too (a temporary file left behind shows).
+QStringList folderEntries(const QString& folder);
