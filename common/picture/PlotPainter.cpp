@@ -56,10 +56,14 @@ struct OverlayItemPainter {
         painter->restore();
     }
 
+    // One line at a time: drawn together, the lines would be filled as one path, whose every
+    // scanline crosses every line (slow once a wide or scaled pen makes them areas).
     void operator()(const PlotLines& item) const
     {
         painter->setPen(item.pen);
-        painter->drawLines(item.lines.data(), int(item.lines.size()));
+        for (const QLineF& line : item.lines) {
+            painter->drawLine(line);
+        }
     }
 
     void operator()(const PlotOutline& item) const
@@ -135,32 +139,24 @@ public:
                        (box.top - vertex.y) / (box.top - box.bottom) * height);
     }
 
-    // Segments in reverse order, so that of two on one pixel the earlier ends on top.
+    // Segments in reverse order, so that of two on one pixel the earlier ends on top; one at
+    // a time, since a wide line is an area, and many drawn together would be filled as one
+    // path whose every scanline crosses all of them.
     void paintLines(const PlotStroke& stroke) const
     {
         QPen pen(Qt::black, qreal(stroke.width), Qt::SolidLine,
-                 stroke.stipple == 0 ? Qt::RoundCap : Qt::FlatCap, Qt::RoundJoin);
+                 stroke.stipple == 0 ? Qt::SquareCap : Qt::FlatCap, Qt::MiterJoin);
         applyStipple(pen, stroke.stipple);
-        std::vector<QLineF> run;
-        PlotRgb runColor;
-        const auto flush = [&] {
-            if (!run.empty()) {
-                pen.setColor(qColorOf(runColor));
-                painter->setPen(pen);
-                painter->drawLines(run.data(), int(run.size()));
-                run.clear();
-            }
-        };
+        const PlotRgb* penColor = nullptr;
         for (size_t i = stroke.vertices.size() / 2; i-- > 0;) {
             const PlotVertex& from = stroke.vertices[2 * i];
-            const PlotVertex& to = stroke.vertices[2 * i + 1];
-            if (!run.empty() && !(from.color == runColor)) {
-                flush();
+            if (penColor == nullptr || !(*penColor == from.color)) {
+                pen.setColor(qColorOf(from.color));
+                painter->setPen(pen);
+                penColor = &from.color;
             }
-            runColor = from.color;
-            run.emplace_back(pixelOf(from), pixelOf(to));
+            painter->drawLine(pixelOf(from), pixelOf(stroke.vertices[2 * i + 1]));
         }
-        flush();
     }
 
     void paintPoints(const PlotStroke& stroke) const
