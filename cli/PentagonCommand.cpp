@@ -1,9 +1,11 @@
 #include "cli/PentagonCommand.h"
 
 #include "cli/ArgumentText.h"
+#include "cli/PictureOptions.h"
 #include "common/core/CLocaleScope.h"
 #include "pentagon/engine/PentagonEngine.h"
 #include "pentagon/engine/PentagonFiles.h"
+#include "pentagon/picture/PentagonPlotPicture.h"
 
 #include <QCommandLineParser>
 #include <QRegularExpression>
@@ -13,9 +15,13 @@
 namespace
 {
 
-const char* const kHelp =
+// The help's option descriptions start at this column.
+constexpr int kHelpColumn = 20;
+
+const char* const kHelpStart =
     "Usage: quillon-cli pentagon [--shape default|regular] [--epsilon E] [--ops SEQUENCE]\n"
-    "                            [--txt FILE]\n"
+    "                            [--txt FILE] [--colors FILE] [--png FILE] [--svg FILE]\n"
+    "                            [--size WxH]\n"
     "Applies In and Out steps to a pentagon in single precision, as the Pentagon tab does, and\n"
     "writes the history export: the points of the initial pentagon and of every successful step.\n"
     "\n"
@@ -27,8 +33,13 @@ const char* const kHelp =
     "                    The regular shape ignores it.\n"
     "  --ops SEQUENCE    The steps, in order: I for In, O for Out (may be empty). Default: none.\n"
     "  --txt FILE        Write the history export to FILE instead of standard output.\n"
+    "  --colors FILE     Draw the pictures in the colours, line width and point size from FILE,\n"
+    "                    a configuration file as File > Open a configuration file reads it.\n";
+
+const char* const kHelpEnd =
     "  -h, --help        Show this help.\n"
     "\n"
+    "With neither --txt nor a picture file the history export goes to standard output.\n"
     "The last line on standard error is the final status: the message of the step that failed\n"
     "(such as \"Error! Two lines are parallel! \") or \"ok\". A failed step is a result: the exit\n"
     "status is still 0. Steps after a failed one change nothing.\n";
@@ -67,8 +78,12 @@ int PentagonCommand::run(const QStringList& arguments, const CliStreams& streams
     const QCommandLineOption epsilon(QStringLiteral("epsilon"), QString(), QStringLiteral("E"));
     const QCommandLineOption ops(QStringLiteral("ops"), QString(), QStringLiteral("SEQUENCE"));
     const QCommandLineOption txt(QStringLiteral("txt"), QString(), QStringLiteral("FILE"));
-    parser.addOptions({shape, epsilon, ops, txt});
-    if (const auto done = parseArguments(parser, arguments, streams, kHelp)) {
+    const QCommandLineOption colors(QStringLiteral("colors"), QString(), QStringLiteral("FILE"));
+    parser.addOptions({shape, epsilon, ops, txt, colors});
+    const PictureOptions pictureOptions(quillon::kDefaultPlotViewSize);
+    pictureOptions.addTo(parser);
+    const std::string help = kHelpStart + pictureOptions.help(kHelpColumn).toStdString() + kHelpEnd;
+    if (const auto done = parseArguments(parser, arguments, streams, help.c_str())) {
         return *done;
     }
     const QString shapeName = parser.isSet(shape) ? parser.value(shape) : QStringLiteral("default");
@@ -87,6 +102,19 @@ int PentagonCommand::run(const QStringList& arguments, const CliStreams& streams
         return usageError(streams, QStringLiteral("--ops '%1' holds something other than I and O")
                                        .arg(shownArgument(sequence)));
     }
+    PictureRequest pictures;
+    if (const auto refusal = pictureOptions.read(parser, pictures)) {
+        return usageError(streams, *refusal);
+    }
+    PentagonColorSettings colours;
+    if (parser.isSet(colors)) {
+        std::string text;
+        if (const int status = readConfigurationFile(streams, parser.value(colors), text);
+            status != ExitSuccess) {
+            return status;
+        }
+        readPentagonConfiguration(text, colours);
+    }
 
     PentagonEngine engine;
     engine.setRegular(shapeName == QLatin1String("regular"));
@@ -103,8 +131,13 @@ int PentagonCommand::run(const QStringList& arguments, const CliStreams& streams
     int status = ExitSuccess;
     if (parser.isSet(txt)) {
         status = writeExport(streams, parser.value(txt), history);
-    } else {
+    } else if (pictures.empty()) {
         status = writeOutput(streams, history);
+    }
+    if (status == ExitSuccess) {
+        status = writePictures(streams, pictures, [&](QSize viewSize) {
+            return pentagonFinishedPicture(engine, colours, viewSize);
+        });
     }
     if (status == ExitSuccess) {
         const std::string message = pentagonStatusMessage(engine.lastStatus());

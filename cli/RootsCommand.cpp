@@ -1,9 +1,11 @@
 #include "cli/RootsCommand.h"
 
 #include "cli/ArgumentText.h"
+#include "cli/PictureOptions.h"
 #include "roots/engine/RootsFieldRule.h"
 #include "roots/engine/RootsSolver.h"
 #include "roots/engine/RootsTextExport.h"
+#include "roots/picture/RootsGridPicture.h"
 
 #include <QCommandLineParser>
 #include <optional>
@@ -11,8 +13,12 @@
 namespace
 {
 
-const char* const kHelp =
+// The help's option descriptions start at this column.
+constexpr int kHelpColumn = 15;
+
+const char* const kHelpStart =
     "Usage: quillon-cli roots [--example 1|2|3] [--a TEXT] [--b TEXT] [--c TEXT] [--txt FILE]\n"
+    "                         [--png FILE] [--svg FILE] [--size WxH]\n"
     "Solves a x^2 + b x + c = 0 four ways, as the Roots tab does, starting from a = 1,\n"
     "b = 1000, c = 1. --example takes an example as its menu entry does; then each given\n"
     "coefficient is read as pressing Enter in its field does, in the order a, b, c.\n"
@@ -22,11 +28,15 @@ const char* const kHelp =
     "  --a TEXT     a, a decimal number from 1e-11 to 1e8 with at most 9 decimals.\n"
     "  --b TEXT     b, a decimal number from -1e8 to 1e8 with at most 9 decimals.\n"
     "  --c TEXT     c, likewise.\n"
-    "  --txt FILE   Also write the text export to FILE.\n"
+    "  --txt FILE   Also write the text export to FILE.\n";
+
+const char* const kHelpEnd =
     "  -h, --help   Show this help.\n"
     "\n"
     "Standard output: a header line, then one tab-separated line per grid row: the row's\n"
-    "name, the four cells as the grid shows them, and the row's agreement class.\n";
+    "name, the four cells as the grid shows them, and the row's agreement class.\n"
+    "A picture shows the equation and the result grid, each row's cells in the colours of its\n"
+    "agreement class (black where the tab would keep a cell's earlier colour).\n";
 
 struct Coefficient {
     const char* option;
@@ -78,7 +88,10 @@ int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) c
         parser.addOption(QCommandLineOption(QString::fromLatin1(coefficient.option), QString(),
                                             QStringLiteral("TEXT")));
     }
-    if (const auto done = parseArguments(parser, arguments, streams, kHelp)) {
+    const PictureOptions pictureOptions(kRootsPictureSize);
+    pictureOptions.addTo(parser);
+    const std::string help = kHelpStart + pictureOptions.help(kHelpColumn).toStdString() + kHelpEnd;
+    if (const auto done = parseArguments(parser, arguments, streams, help.c_str())) {
         return *done;
     }
     std::optional<int> exampleNumber;
@@ -105,6 +118,10 @@ int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) c
                                   .arg(coefficient.range.decimals));
         }
     }
+    PictureRequest pictures;
+    if (const auto refusal = pictureOptions.read(parser, pictures)) {
+        return usageError(streams, *refusal);
+    }
 
     RootsSolver solver(streams.err);
     if (exampleNumber) {
@@ -126,7 +143,11 @@ int RootsCommand::run(const QStringList& arguments, const CliStreams& streams) c
         return status;
     }
     if (parser.isSet(txt)) {
-        return writeExport(streams, parser.value(txt), rootsTextExport(solver));
+        if (const int status = writeExport(streams, parser.value(txt), rootsTextExport(solver));
+            status != ExitSuccess) {
+            return status;
+        }
     }
-    return ExitSuccess;
+    return writePictures(streams, pictures,
+                         [&](QSize viewSize) { return rootsGridPicture(solver, viewSize); });
 }

@@ -363,3 +363,67 @@ TEST(PictureCli, DeviceThatTakesNoBytesIsAFileError)
     EXPECT_TRUE(run.err.startsWith(QStringLiteral("quillon-cli assoc: cannot write \"/dev/full\"")))
         << run.err.toStdString();
 }
+
+// The Roots picture: example 2 (b^2 >> 4ac) loses the large root in naive single precision,
+// whose cells the grid shows in red, and the cancellation-free residual in the grid's blue,
+// (0, 1, 255).
+TEST(PictureCli, RootsPictureShowsTheGridInItsAgreementColours)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("roots.png"));
+    const CliRun run =
+        CliRun::of({"roots", "--example", "2", "--png", path, "--size", "1920x1080"});
+    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
+    // The grid still goes to standard output: a header and seven rows.
+    EXPECT_EQ(run.out.count(QLatin1Char('\n')), 8);
+    EXPECT_TRUE(run.err.endsWith(QStringLiteral("save file %1 done\n").arg(path)));
+    const QImage image(path, "PNG");
+    EXPECT_EQ(image.size(), QSize(1920, 1080));
+    EXPECT_GT(pixelsOf(image, kRed), 100);
+    EXPECT_GT(pixelsOf(image, qRgb(0, 1, 255)), 100);
+}
+
+TEST(PictureCli, RootsDefaultSizeIsTheGridInTheDefaultWindow)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("roots.png"));
+    ASSERT_EQ(CliRun::of({"roots", "--png", path}).exitCode, 0);
+    EXPECT_EQ(QImage(path, "PNG").size(), QSize(1060, 630));
+}
+
+TEST(PictureCli, RootsSvgHoldsTheHeadingsAndTheCells)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("roots.svg"));
+    ASSERT_EQ(CliRun::of({"roots", "--example", "2", "--svg", path}).exitCode, 0);
+    QXmlStreamReader reader(fileBytes(path));
+    QStringList texts;
+    while (!reader.atEnd()) {
+        reader.readNext();
+        if (reader.isCharacters() && !reader.isWhitespace()) {
+            texts << reader.text().toString().trimmed();
+        }
+    }
+    ASSERT_FALSE(reader.hasError()) << reader.errorString().toStdString();
+    // The naive single-precision large root of x^2 + 10000 x + 1 cancels to 0.
+    for (const char* text : {"Cancellation", "Large Root", "0.000000e+00", "1.000000e+08"}) {
+        EXPECT_TRUE(texts.contains(QString::fromLatin1(text))) << text;
+    }
+}
+
+// The animated example's five Ins and five Outs: the initial pentagon in red, the one they
+// give back in blue; the history goes nowhere but the status still ends standard error.
+TEST(PictureCli, PentagonPictureShowsTheInitialAndTheNewestPentagon)
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("drift.png"));
+    const CliRun run =
+        CliRun::of({"pentagon", "--ops", "IIIIIOOOOO", "--png", path, "--size", "1920x1080"});
+    ASSERT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_TRUE(run.out.isEmpty());
+    EXPECT_EQ(run.err, QStringLiteral("save file %1 done\nok\n").arg(path));
+    const QImage image(path, "PNG");
+    EXPECT_EQ(image.size(), QSize(1920, 1080));
+    EXPECT_GT(pixelsOf(image, kRed), kDrawnPixels);
+    EXPECT_GT(pixelsOf(image, qRgb(0, 0, 255)), kDrawnPixels);
+}
