@@ -7,8 +7,8 @@
 #include "common/gui/FileRoutines.h"
 #include "common/gui/GlPlotFrame.h"
 #include "common/gui/PlotOverlay.h"
-#include "common/gui/QtColor.h"
 #include "common/picture/ImageLookup.h"
+#include "common/picture/QtColor.h"
 
 #include <GL/gl.h>
 #include <QLineEdit>
@@ -548,7 +548,7 @@ void AssoOpenGLScene::paintXIndexLayer() const
 {
     // The turned labels hang from the top edge as far as the longest one is wide.
     const int lastIndex = std::max(std::min(window.end, N - 1), 0);
-    const int depth = std::min(indexLabels.width(lastIndex) + 4, std::max(viewHeight, 1));
+    const int depth = std::min(indexLabels->width(lastIndex) + 4, std::max(viewHeight, 1));
     xIndexLayer = QImage(std::max(viewWidth, 1), depth, QImage::Format_ARGB32_Premultiplied);
     xIndexLayer.fill(Qt::transparent);
     QPainter painter(&xIndexLayer);
@@ -560,9 +560,9 @@ void AssoOpenGLScene::paintXIndexLayer() const
         if (!window.displays(n)) {
             continue;
         }
-        const float x = nodePixelX(n) - float(indexLabels.width(n)) / 2.0f;
+        const float x = nodePixelX(n) - float(indexLabels->width(n)) / 2.0f;
         // Static texts are placed by their top-left corner, text by its baseline.
-        painter.drawStaticText(QPointF(2, -(x + 2) - ascent), indexLabels.staticText(n));
+        painter.drawStaticText(QPointF(2, -(x + 2) - ascent), indexLabels->staticText(n));
     }
 }
 
@@ -575,7 +575,7 @@ void AssoOpenGLScene::drawXAxisLines(QPainter* painter) const
             continue;
         }
         // Half a label's width left of the node, where its rotated label stands.
-        const float x = nodePixelX(n) - float(indexLabels.width(n)) / 2.0f;
+        const float x = nodePixelX(n) - float(indexLabels->width(n)) / 2.0f;
         lines.emplace_back(x, 0, x, viewHeight);
     }
     painter->drawLines(lines.data(), int(lines.size()));

@@ -1,6 +1,6 @@
 #include "common/gui/ColorMapWindow.h"
 
-#include "common/gui/QtColor.h"
+#include "common/picture/QtColor.h"
 
 #include <QLabel>
 #include <QMouseEvent>

@@ -28,7 +28,8 @@ QString numberText(int value)
 } // namespace
 
 IndexPlotScene::IndexPlotScene(const PlotAnimationPanel& controls, QObject* parent)
-    : OpenGLPlotScene(parent), controls(controls), indexLabels(plotOverlayFont())
+    : OpenGLPlotScene(parent), controls(controls),
+      indexLabels(std::make_shared<IndexLabels>(plotOverlayFont()))
 {
     errorImage = loadImage(QStringLiteral("error.png"));
     checkedImage = loadImage(QStringLiteral("c.png"));

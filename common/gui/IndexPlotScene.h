@@ -10,6 +10,7 @@
 
 #include <QImage>
 #include <QRectF>
+#include <memory>
 #include <optional>
 
 namespace quillon
@@ -133,8 +134,8 @@ protected:
     QImage errorImage;
     QImage checkedImage;
     QImage uncheckedImage;
-    // Index labels are the same on every frame; painting is const, the cache is not.
-    mutable IndexLabels indexLabels;
+    // Index labels are the same on every frame: made once, shared with the frames' descriptions.
+    std::shared_ptr<IndexLabels> indexLabels;
 
 private:
     void showWindowMove();

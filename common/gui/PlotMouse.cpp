@@ -77,12 +77,19 @@ bool PlotMouse::undoZoom(const View& view)
 
 void PlotMouse::drawRubberBand(QPainter* painter) const
 {
-    if (pressX == -1.0f || pressY == -1.0f) {
-        return;
+    if (const auto band = rubberBand()) {
+        painter->setPen(Qt::black);
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(*band);
     }
-    painter->setPen(Qt::black);
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRect(QRectF(QPointF(pressX, pressY), QPointF(pointerX, pointerY)));
+}
+
+std::optional<QRectF> PlotMouse::rubberBand() const
+{
+    if (pressX == -1.0f || pressY == -1.0f) {
+        return std::nullopt;
+    }
+    return QRectF(QPointF(pressX, pressY), QPointF(pointerX, pointerY));
 }
 
 } // namespace quillon

@@ -2,7 +2,9 @@
 
 #include "common/core/PlotXWindow.h"
 
+#include <QRectF>
 #include <Qt>
+#include <optional>
 #include <vector>
 
 class QPainter;
@@ -45,6 +47,8 @@ public:
 
     // The rectangle from the press to the pointer in black, while a drag is on.
     void drawRubberBand(QPainter* painter) const;
+    // The rectangle from the press to the pointer while a drag is on.
+    std::optional<QRectF> rubberBand() const;
 
     int zoomDepth() const { return int(zoomHistory.size()); }
 

@@ -13,18 +13,16 @@ namespace quillon
 
 void drawPlotValueLabels(QPainter* painter, float yMin, float yMax, int viewHeight)
 {
-    PlotPicture picture;
+    std::vector<PlotOverlayItem> overlay;
     for (PlotText& label : plotValueLabels(yMin, yMax, viewHeight)) {
-        picture.overlay.emplace_back(std::move(label));
+        overlay.emplace_back(std::move(label));
     }
-    paintPlotOverlay(painter, picture);
+    paintPlotOverlay(painter, overlay, QSize());
 }
 
 void drawPlotNodeRing(QPainter* painter, QPointF centre)
 {
-    PlotPicture picture;
-    picture.overlay.emplace_back(plotNodeRing(centre));
-    paintPlotOverlay(painter, picture);
+    paintPlotOverlay(painter, {plotNodeRing(centre)}, QSize());
 }
 
 void applySpeedLevel(int& level, int minLevel, int maxLevel, QPushButton* faster,

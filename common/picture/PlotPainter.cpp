@@ -212,11 +212,12 @@ const QImage& PlotOverlayCache::turnedLabelLayer(const PlotIndexLabels& labels, 
     return layer;
 }
 
-void paintPlotOverlay(QPainter* painter, const PlotPicture& picture, PlotOverlayCache* cache)
+void paintPlotOverlay(QPainter* painter, const std::vector<PlotOverlayItem>& overlay,
+                      QSize viewSize, PlotOverlayCache* cache)
 {
-    const OverlayItemPainter itemPainter{painter, cache, picture.size};
+    const OverlayItemPainter itemPainter{painter, cache, viewSize};
     painter->save();
-    for (const PlotOverlayItem& item : picture.overlay) {
+    for (const PlotOverlayItem& item : overlay) {
         std::visit(itemPainter, item);
     }
     painter->restore();
@@ -249,7 +250,7 @@ void paintPlotBackground(QPainter* painter, const PlotPicture& picture)
 void paintPlotPicture(QPainter* painter, const PlotPicture& picture)
 {
     paintPlotBackground(painter, picture);
-    paintPlotOverlay(painter, picture);
+    paintPlotOverlay(painter, picture.overlay, picture.size);
 }
 
 } // namespace quillon

@@ -34,8 +34,8 @@ private:
 // The overlay, item by item, over whatever the painter holds. With a cache, turned index
 // labels are painted into a layer that is kept between frames (the screen's way); without
 // one they are painted directly (a picture file's way, so an SVG keeps them as text).
-void paintPlotOverlay(QPainter* painter, const PlotPicture& picture,
-                      PlotOverlayCache* cache = nullptr);
+void paintPlotOverlay(QPainter* painter, const std::vector<PlotOverlayItem>& overlay,
+                      QSize viewSize, PlotOverlayCache* cache = nullptr);
 
 // The background as the painter draws it for a file: the white field, then every stroke
 // mapped from the orthographic box to the view, nearer strokes over farther ones and, at one

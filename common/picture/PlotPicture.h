@@ -10,6 +10,7 @@
 #include <QSize>
 #include <QString>
 #include <cstdint>
+#include <memory>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -91,7 +92,7 @@ struct PlotBoxText {
 // Index labels made once and kept by `labels`: each label's top-left corner, in coordinates
 // turned by `turn` degrees (0, or 90 for labels that read downwards), and its index.
 struct PlotIndexLabels {
-    IndexLabels* labels = nullptr;
+    std::shared_ptr<IndexLabels> labels;
     QColor color;
     qreal turn = 0.0;
     std::vector<std::pair<QPointF, int>> placed;

@@ -5,8 +5,8 @@
 #include "common/gui/FileRoutines.h"
 #include "common/gui/GlPlotFrame.h"
 #include "common/gui/PlotOverlay.h"
-#include "common/gui/QtColor.h"
 #include "common/picture/ImageLookup.h"
+#include "common/picture/QtColor.h"
 #include "sine/engine/SineEngine.h"
 #include "sine/engine/SinePlotGeometry.h"
 #include "sine/gui/SineFocusWindow.h"
@@ -734,8 +734,8 @@ void SineOpenGLScene::drawXIndices(QPainter* painter) const
     painter->setPen(Qt::darkBlue);
     for (int i = std::max(window.start, 0); i <= window.end && i < N; ++i) {
         if (window.displays(i)) {
-            const float x = nodePixelX(i) - float(indexLabels.width(i)) / 2.0f;
-            painter->drawStaticText(QPointF(x, 2.0), indexLabels.staticText(i));
+            const float x = nodePixelX(i) - float(indexLabels->width(i)) / 2.0f;
+            painter->drawStaticText(QPointF(x, 2.0), indexLabels->staticText(i));
         }
     }
 }

@@ -2,7 +2,7 @@
 
 #include "common/core/CFormat.h"
 #include "common/gui/GroupBoxStyle.h"
-#include "common/gui/QtColor.h"
+#include "common/picture/QtColor.h"
 #include "sine/gui/SineAxisHeadings.h"
 #include "sine/gui/SineOpenGLScene.h"
 

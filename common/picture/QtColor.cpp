@@ -1,4 +1,4 @@
-#include "common/gui/QtColor.h"
+#include "common/picture/QtColor.h"
 
 #include <algorithm>
 
@@ -9,6 +9,11 @@ QColor toQColor(const ColorTriple& color)
 {
     const auto clamped = [](int32_t component) { return std::clamp<int32_t>(component, 0, 255); };
     return QColor(clamped(color.red), clamped(color.green), clamped(color.blue));
+}
+
+PlotRgb toPlotRgb(const ColorTriple& color)
+{
+    return {color.redF(), color.greenF(), color.blueF()};
 }
 
 } // namespace quillon

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "common/core/ColorTriple.h"
+#include "common/picture/PlotPicture.h"
 
 #include <QColor>
 
@@ -11,5 +12,8 @@ namespace quillon
 // component outside 0..255 (a configuration file may hold one) is clamped here the same way:
 // a legend square then shows exactly the colour of its curve.
 QColor toQColor(const ColorTriple& color);
+
+// The colour a triple gives OpenGL: each component divided by 255.
+PlotRgb toPlotRgb(const ColorTriple& color);
 
 } // namespace quillon
