@@ -281,6 +281,7 @@ void MainWindow::setUpSineTab()
                    [scene](const QString& name) { return scene->saveTextData(name); });
     setFileRoutine(FileAction::SineSaveCsv,
                    [scene](const QString& name) { return scene->saveCsvData(name); });
+    enableActionFor(SLOT(sine_exportPicture()));
     sineTimer->start(400);
 }
 
@@ -355,7 +356,11 @@ void MainWindow::asso_exportPicture()
                   quillon::kDefaultPlotViewSize);
 }
 
-void MainWindow::sine_exportPicture() {}
+void MainWindow::sine_exportPicture()
+{
+    exportPicture(filePictureOf(sineScene), sineView->viewport()->size(),
+                  quillon::kDefaultPlotViewSize);
+}
 
 void MainWindow::installAuxiliaryWindow(AuxWindow window, QWidget* widget)
 {

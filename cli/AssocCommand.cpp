@@ -97,13 +97,11 @@ int AssocCommand::run(const QStringList& arguments, const CliStreams& streams) c
         return usageError(streams, *refusal);
     }
     AssoColors colours = kAssoDefaultColors;
-    if (parser.isSet(colors)) {
-        std::string text;
-        if (const int status = readConfigurationFile(streams, parser.value(colors), text);
-            status != ExitSuccess) {
-            return status;
-        }
-        readAssoColorFile(text, colours);
+    if (const int status = readColorsOption(
+            streams, parser, colors,
+            [&colours](const std::string& text) { readAssoColorFile(text, colours); });
+        status != ExitSuccess) {
+        return status;
     }
 
     // The fields' texts are read the way the tab reads them: unreadable text is 0.

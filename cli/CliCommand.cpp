@@ -91,13 +91,19 @@ int CliCommand::writePictures(const CliStreams& streams, const PictureRequest& r
     return ExitSuccess;
 }
 
-int CliCommand::readConfigurationFile(const CliStreams& streams, const QString& path,
-                                      std::string& text) const
+int CliCommand::readColorsOption(const CliStreams& streams, const QCommandLineParser& parser,
+                                 const QCommandLineOption& option,
+                                 const std::function<void(const std::string&)>& apply) const
 {
+    if (!parser.isSet(option)) {
+        return ExitSuccess;
+    }
+    std::string text;
     std::string error;
-    if (!quillon::readTextFile(path.toStdString(), quillon::kMaxConfigurationFileBytes, text,
-                               error)) {
+    if (!quillon::readTextFile(parser.value(option).toStdString(),
+                               quillon::kMaxConfigurationFileBytes, text, error)) {
         return fileError(streams, error);
     }
+    apply(text);
     return ExitSuccess;
 }

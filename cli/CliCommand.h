@@ -6,6 +6,7 @@
 #include <QString>
 #include <QStringList>
 #include <cstdio>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -72,8 +73,10 @@ protected:
     int writePictures(const CliStreams& streams, const PictureRequest& request,
                       const quillon::PictureDescriber& describe) const;
 
-    // Reads the beginning of a configuration file (a colour file) into `text`, as the tabs'
-    // File > Open entries do. Returns ExitSuccess, or ExitFileError after a one-line reason.
-    int readConfigurationFile(const CliStreams& streams, const QString& path,
-                              std::string& text) const;
+    // When `option` (--colors) is given, reads the beginning of the configuration file it
+    // names, as the tabs' File > Open entries do, and hands the text to `apply`. Returns
+    // ExitSuccess, or ExitFileError after a one-line reason (and then applies nothing).
+    int readColorsOption(const CliStreams& streams, const QCommandLineParser& parser,
+                         const QCommandLineOption& option,
+                         const std::function<void(const std::string&)>& apply) const;
 };

@@ -107,13 +107,11 @@ int PentagonCommand::run(const QStringList& arguments, const CliStreams& streams
         return usageError(streams, *refusal);
     }
     PentagonColorSettings colours;
-    if (parser.isSet(colors)) {
-        std::string text;
-        if (const int status = readConfigurationFile(streams, parser.value(colors), text);
-            status != ExitSuccess) {
-            return status;
-        }
-        readPentagonConfiguration(text, colours);
+    if (const int status = readColorsOption(
+            streams, parser, colors,
+            [&colours](const std::string& text) { readPentagonConfiguration(text, colours); });
+        status != ExitSuccess) {
+        return status;
     }
 
     PentagonEngine engine;

@@ -6,7 +6,6 @@
 #include "common/gui/PlotOverlay.h"
 #include "common/picture/ImageLookup.h"
 
-#include <GL/gl.h>
 #include <QGraphicsSceneMouseEvent>
 #include <QLabel>
 #include <QPainter>
@@ -197,28 +196,6 @@ float IndexPlotScene::gridValue(int j) const
 }
 
 // ---- painting -----------------------------------------------------------------------------
-
-void IndexPlotScene::drawReferenceLines(float depth) const
-{
-    glPushAttrib(GL_ENABLE_BIT | GL_LINE_BIT);
-    glColor3f(gridColor[0], gridColor[1], gridColor[2]);
-    glLineWidth(1.0f);
-    glLineStipple(1, 0xAAAA);
-    glEnable(GL_LINE_STIPPLE);
-    glBegin(GL_LINES);
-    for (float y : {-1.0f, 1.0f, 0.0f}) {
-        glVertex3f(xMin, y, depth);
-        glVertex3f(xMax, y, depth);
-    }
-    if (needYAxis) {
-        for (int j = 0; j < kPlotGridLines; ++j) {
-            glVertex3f(xMin, gridValue(j), depth);
-            glVertex3f(xMax, gridValue(j), depth);
-        }
-    }
-    glEnd();
-    glPopAttrib();
-}
 
 void IndexPlotScene::drawForeground(QPainter* painter, const QRectF& rect)
 {

@@ -91,9 +91,6 @@ protected:
     float valuePixelY(float value) const;
     float gridValue(int j) const;
 
-    // The dotted lines at -1, 0 and 1, and at the 21 grid values when Y grid lines are on.
-    void drawReferenceLines(float depth) const;
-
     // The foreground pass records the view's size, then paints the scene's overlays without
     // smoothing.
     void drawForeground(QPainter* painter, const QRectF& rect) override;

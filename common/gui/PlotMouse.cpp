@@ -1,6 +1,5 @@
 #include "common/gui/PlotMouse.h"
 
-#include <QPainter>
 #include <cmath>
 
 namespace quillon
@@ -73,15 +72,6 @@ bool PlotMouse::undoZoom(const View& view)
     view.yMin = previous.yMin;
     view.yMax = previous.yMax;
     return true;
-}
-
-void PlotMouse::drawRubberBand(QPainter* painter) const
-{
-    if (const auto band = rubberBand()) {
-        painter->setPen(Qt::black);
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRect(*band);
-    }
 }
 
 std::optional<QRectF> PlotMouse::rubberBand() const

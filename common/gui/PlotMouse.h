@@ -7,8 +7,6 @@
 #include <optional>
 #include <vector>
 
-class QPainter;
-
 namespace quillon
 {
 
@@ -45,8 +43,6 @@ public:
     // zoom. Returns true when the window or the range changed.
     bool release(Qt::MouseButton button, float x, float y, const View& view);
 
-    // The rectangle from the press to the pointer in black, while a drag is on.
-    void drawRubberBand(QPainter* painter) const;
     // The rectangle from the press to the pointer while a drag is on.
     std::optional<QRectF> rubberBand() const;
 

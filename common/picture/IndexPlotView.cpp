@@ -30,6 +30,13 @@ QRectF IndexPlotView::errorIconRect(int i) const
     return plotErrorIconRect(nodePixelX(i), width, height);
 }
 
+QTransform IndexPlotView::pixelScaleTo(QSize size) const
+{
+    const double scaleX = width > 0 ? double(size.width()) / width : 1.0;
+    const double scaleY = height > 0 ? double(size.height()) / height : 1.0;
+    return QTransform::fromScale(scaleX, scaleY);
+}
+
 PlotStroke IndexPlotView::referenceLines(bool grid, PlotRgb color, float depth) const
 {
     PlotStroke stroke;

@@ -4,6 +4,8 @@
 #include "common/picture/PlotPicture.h"
 
 #include <QRectF>
+#include <QSize>
+#include <QTransform>
 
 namespace quillon
 {
@@ -28,6 +30,10 @@ struct IndexPlotView {
     float gridValue(int j) const;
     // The square of the error icon of index i.
     QRectF errorIconRect(int i) const;
+
+    // The map from this view's pixels to those of a view of `size`, for positions kept in view
+    // pixels (the pointer, a drag's rectangle); none while this view has no size yet.
+    QTransform pixelScaleTo(QSize size) const;
 
     // The dotted lines at -1, 0 and 1 and, with `grid`, at the 21 grid values, across the
     // whole x span.

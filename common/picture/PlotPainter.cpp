@@ -2,6 +2,7 @@
 
 #include "common/picture/IndexLabels.h"
 
+#include <QPaintEngine>
 #include <QPainter>
 #include <algorithm>
 #include <numeric>
@@ -94,14 +95,15 @@ QColor qColorOf(const PlotRgb& rgb)
 }
 
 // The OpenGL stipple as a dash pattern in units of the pen's width: runs of set and clear
-// bits from bit 0, starting with a set run (the clear bits before it become the offset).
+// bits, starting with the first set run that follows a clear bit (a run across bit 15 and
+// bit 0 is one dash; the bits before the run become the offset).
 void applyStipple(QPen& pen, std::uint16_t stipple)
 {
     if (stipple == 0 || stipple == 0xFFFF) {
         return;
     }
     int first = 0;
-    while ((stipple >> first & 1) == 0) {
+    while ((stipple >> first & 1) == 0 || (stipple >> (first + 15) % 16 & 1) != 0) {
         ++first;
     }
     QList<qreal> pattern;
@@ -124,6 +126,41 @@ void applyStipple(QPen& pen, std::uint16_t stipple)
     pen.setDashOffset((16 - first) % 16 / pen.widthF());
 }
 
+// The stretches [first, last) of a 16-pixel period that an OpenGL stipple draws: its runs of
+// set bits, bit 0 first.
+std::vector<std::pair<int, int>> stippleStretches(std::uint16_t stipple)
+{
+    std::vector<std::pair<int, int>> stretches;
+    for (int bit = 0; bit < 16; ++bit) {
+        if ((stipple >> bit & 1) == 0) {
+            continue;
+        }
+        if (!stretches.empty() && stretches.back().second == bit) {
+            ++stretches.back().second;
+        } else {
+            stretches.emplace_back(bit, bit + 1);
+        }
+    }
+    return stretches;
+}
+
+// The dashes of a stippled segment as separate lines, the pattern starting again at the
+// segment's start with one bit a view pixel: the dash pattern applyStipple gives a pen.
+void addDashes(std::vector<QLineF>& lines, const QLineF& segment,
+               const std::vector<std::pair<int, int>>& stretches)
+{
+    const qreal length = segment.length();
+    for (qreal period = 0; period < length; period += 16) {
+        for (const auto& [first, last] : stretches) {
+            if (period + first >= length) {
+                break;
+            }
+            lines.emplace_back(segment.pointAt((period + first) / length),
+                               segment.pointAt(std::min(period + last, length) / length));
+        }
+    }
+}
+
 class BackgroundPainter
 {
 public:
@@ -139,15 +176,24 @@ public:
                        (box.top - vertex.y) / (box.top - box.bottom) * height);
     }
 
-    // Segments in reverse order, so that of two on one pixel the earlier ends on top; one at
-    // a time, since a wide line is an area, and many drawn together would be filled as one
-    // path whose every scanline crosses all of them.
+    // Segments in reverse order, so that of two on one pixel the earlier ends on top. Their
+    // ends are flat, as OpenGL draws its lines (round caps would also take most of the time of
+    // a picture of a long run: thousands of segments, each capped twice). A raster painter
+    // dashes long dotted lines many times more slowly than it draws the dashes one by one, so
+    // for it the dashes are cut here; a vector file keeps the dash pattern. One line at a
+    // time: many wide lines drawn together would be filled as one path whose every scanline
+    // crosses all of them.
     void paintLines(const PlotStroke& stroke) const
     {
-        QPen pen(Qt::black, qreal(stroke.width), Qt::SolidLine,
-                 stroke.stipple == 0 ? Qt::SquareCap : Qt::FlatCap, Qt::MiterJoin);
-        applyStipple(pen, stroke.stipple);
+        QPen pen(Qt::black, qreal(stroke.width), Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+        const bool cutDashes = stroke.stipple != 0 && stroke.stipple != 0xFFFF &&
+                               painter->paintEngine()->type() == QPaintEngine::Raster;
+        const std::vector<std::pair<int, int>> stretches = stippleStretches(stroke.stipple);
+        if (!cutDashes) {
+            applyStipple(pen, stroke.stipple);
+        }
         const PlotRgb* penColor = nullptr;
+        std::vector<QLineF> pieces;
         for (size_t i = stroke.vertices.size() / 2; i-- > 0;) {
             const PlotVertex& from = stroke.vertices[2 * i];
             if (penColor == nullptr || !(*penColor == from.color)) {
@@ -155,7 +201,16 @@ public:
                 painter->setPen(pen);
                 penColor = &from.color;
             }
-            painter->drawLine(pixelOf(from), pixelOf(stroke.vertices[2 * i + 1]));
+            const QLineF segment(pixelOf(from), pixelOf(stroke.vertices[2 * i + 1]));
+            pieces.clear();
+            if (cutDashes) {
+                addDashes(pieces, segment, stretches);
+            } else {
+                pieces.push_back(segment);
+            }
+            for (const QLineF& piece : pieces) {
+                painter->drawLine(piece);
+            }
         }
     }
 

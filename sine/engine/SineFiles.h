@@ -6,8 +6,24 @@
 #include <array>
 #include <string>
 
-// The library sine's colour first, then Func1 .. Func12.
+// The library sine's colour first, then Func1 .. Func12; the selections count the same way.
+constexpr int kSineLibrarySlot = 0;
 using SineColors = std::array<quillon::ColorTriple, kSineApproachCount + 1>;
+
+// The colours at start-up: black for the library sine, then the twelve approaches'.
+constexpr SineColors kSineDefaultColors = {{{0, 0, 0},
+                                            {255, 192, 203},
+                                            {255, 20, 147},
+                                            {199, 21, 133},
+                                            {139, 0, 0},
+                                            {255, 0, 0},
+                                            {255, 69, 0},
+                                            {255, 215, 0},
+                                            {128, 128, 0},
+                                            {0, 255, 0},
+                                            {0, 255, 255},
+                                            {0, 0, 128},
+                                            {106, 90, 205}}};
 
 // The colour configuration file: "Sine Color R r G g B b", then "FuncK Color ..." for K = 1..12.
 std::string sineColorFileText(const SineColors& colors);

@@ -21,17 +21,10 @@ void forEachVisiblePoint(const SinePlotContent& content, const quillon::PlotXWin
         if (!content.enabled[k]) {
             continue;
         }
-        for (int i = std::max(window.start, 0); i <= window.end && i < count; ++i) {
-            if (!window.displays(i)) {
-                continue;
-            }
-            const std::optional<float> value = content.plotted(k, i);
-            if (!value) {
-                break;
-            }
+        for (int i : sinePlottedIndices(content, window, count, k)) {
             const float x = quillon::plotNodeX(window, i, xLeft, xRight);
             if (xLeft <= x && x <= xRight) {
-                visit(k, i, *value);
+                visit(k, i, *content.plotted(k, i));
             }
         }
     }
@@ -57,6 +50,22 @@ std::optional<float> SinePlotContent::plotted(int k, int i) const
         return series.sums[i];
     }
     return static_cast<float>(double(series.sums[i]) - double(results->librarySine));
+}
+
+std::vector<int> sinePlottedIndices(const SinePlotContent& content,
+                                    const quillon::PlotXWindow& window, int count, int k)
+{
+    std::vector<int> indices;
+    for (int i = std::max(window.start, 0); i <= window.end && i < count; ++i) {
+        if (!window.displays(i)) {
+            continue;
+        }
+        if (!content.plotted(k, i)) {
+            break;
+        }
+        indices.push_back(i);
+    }
+    return indices;
 }
 
 std::optional<std::pair<float, float>> sineFitYRange(const SinePlotContent& content,

@@ -6,6 +6,7 @@
 #include <array>
 #include <optional>
 #include <utility>
+#include <vector>
 
 // What the curves show: each selected approach's partial sums, or in error mode their errors
 // against the library sine.
@@ -19,6 +20,11 @@ struct SinePlotContent {
     // in error mode; nothing from the series' first non-zero code on or past its sums.
     std::optional<float> plotted(int k, int i) const;
 };
+
+// The displayed indices below `count` at which approach k has a plotted point, in order: the
+// walk over the window stops at the series' first non-zero code.
+std::vector<int> sinePlottedIndices(const SinePlotContent& content,
+                                    const quillon::PlotXWindow& window, int count, int k);
 
 // The Y range (yLow, yHigh) for the plotted points of the displayed indices below `count`
 // whose x lies within xLeft..xRight. Value mode starts from the library sine, error mode from

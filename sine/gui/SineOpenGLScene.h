@@ -1,37 +1,37 @@
 #pragma once
 
 #include "common/gui/IndexPlotScene.h"
+#include "common/picture/PlotPainter.h"
+#include "common/picture/PlotPicture.h"
 #include "sine/engine/SineApproaches.h"
 #include "sine/engine/SineFiles.h"
 #include "sine/engine/SinePlotGeometry.h"
 #include "sine/gui/SinePanel.h"
+#include "sine/picture/SinePlotState.h"
 
-#include <QImage>
-#include <QRect>
+#include <QSize>
 #include <QString>
 #include <array>
 #include <optional>
-#include <vector>
 
 class SineFocusWindow;
 class SineSelectionWindow;
 class SineStatusWindow;
 class QPainter;
 
-// The sine tab's model and picture: the angle and the number of terms, the twelve series the
-// engine computes from them, the colours, the display flags and the animated window of term
-// indices; the OpenGL background (grid, error markers, trend envelopes, partial-sum curves,
-// drop lines and the library line) and the painter foreground (error icons, index and value
-// labels, the error list, the rubber band, the legend and the largest-error line). The panel
-// and the tool windows change it only through its slots. The X window, the Y range, the view
-// options, the mouse and the animation controls are the common plot scene's.
+// The sine tab's model: the angle and the number of terms, the twelve series the engine
+// computes from them, the colours, the display flags and the animated window of term indices.
+// Each frame is the plot description of its state (sine/picture), its plot area drawn with
+// OpenGL and its overlay with the painter. The panel and the tool windows change it only
+// through its slots. The X window, the Y range, the view options, the mouse and the animation
+// controls are the common plot scene's.
 class SineOpenGLScene : public quillon::IndexPlotScene
 {
     Q_OBJECT
 
 public:
     // Approach k of the flags and colours is Func(k), 1..12; index 0 is the library sine.
-    static constexpr int kLibrary = 0;
+    static constexpr int kLibrary = kSineLibrarySlot;
 
     SineOpenGLScene(const SinePanel& panel, QObject* parent = nullptr);
 
@@ -62,6 +62,10 @@ public:
     // The drawn node nearest a point of the view within `radius` pixels: curve = approach
     // (0 = Func1), index = term index.
     std::optional<quillon::PlotNode> nodeNear(QPointF position, float radius) const;
+
+    // What the view shows now, laid out for a view of `viewSize` (the pointer and the rubber
+    // band scaled from the current view's size to it).
+    quillon::PlotPicture picture(QSize viewSize, quillon::PictureUse use) const;
 
     // The module's files; each returns why it failed (and then changed nothing), or "".
     QString saveColorFile(const QString& path) const;
@@ -129,18 +133,6 @@ protected:
     void helpEvent(QGraphicsSceneHelpEvent* event) override;
 
 private:
-    // Where one legend entry is drawn: for a curve (slot >= 0) its check mark and colour
-    // squares, then its text, shortened with "..." when the column is too narrow for it.
-    struct LegendEntry {
-        int slot;
-        QRect checkMark;
-        QRect colour;
-        QRect textBox;
-        QString name;
-        QString shownName;
-    };
-    LegendEntry legendEntry(int row, int column) const;
-
     void recompute();
     void restartAnimation();
     void refreshTimeSlider();
@@ -152,20 +144,7 @@ private:
     void advanceOneStep();
     void pauseAtAnError();
     SinePlotContent plotContent() const;
-    int indexUnderCursor() const;
-    std::vector<int> plottedIndices(const SinePlotContent& content, int k) const;
-    std::optional<LegendEntry> legendEntryAt(QPointF position) const;
-    void drawNodeMark(QPainter* painter) const;
-    void drawErrorMarkers() const;
-    void drawCurves(int slot) const;
-    void drawTrendLines(const SinePlotContent& content, int k, const std::vector<int>& indices,
-                        float depth) const;
-    void drawLibraryLine() const;
-    void drawErrorIcons(QPainter* painter) const;
-    void drawXIndices(QPainter* painter) const;
-    void drawErrorList(QPainter* painter) const;
-    void drawLegend(QPainter* painter) const;
-    void drawLargestError(QPainter* painter) const;
+    SinePlotState plotState() const;
 
     SinePanel panel;
     SineSelectionWindow* selectionWindow = nullptr;
@@ -174,8 +153,8 @@ private:
 
     int X = 250;
     SineResults computed;
-    SineColors colours;
-    std::array<bool, kSineApproachCount + 1> needed{};
+    SineColors colours = kSineDefaultColors;
+    std::array<bool, kSineApproachCount + 1> needed = kSineStartSelections;
     bool errorComparison = false;
     bool finalError = false;
     int lowerRange = -100;
@@ -187,4 +166,7 @@ private:
 
     bool autoPaused = false;
     bool blink = false;
+
+    // What painting the overlay keeps between frames.
+    quillon::PlotOverlayCache overlayCache;
 };
