@@ -430,33 +430,20 @@ std::optional<quillon::PlotNode> AssoOpenGLScene::nodeNear(QPointF position, flo
 AssoPlotState AssoOpenGLScene::plotState() const
 {
     AssoPlotState state;
-    state.view = plotView();
+    fillIndexPlotState(state);
     state.results = &results;
     state.colours = colours;
     state.needFunc = needFunc;
     state.compare = compare;
     state.baseFunc = baseFunc;
-    state.needXAxis = needXAxis;
-    state.needYAxis = needYAxis;
-    state.showXIndices = showXIndices;
-    state.showYIndices = showYIndices;
-    state.showLabels = showLabels;
     state.showErrorMessages = showErrorMessages;
     state.highlightedFunc = highlightedFunc;
-    state.pointer = QPointF(mouse.x(), mouse.y());
-    state.rubberBand = mouse.rubberBand();
-    state.markedNode = markedNode;
-    state.gridColor = {gridColor[0], gridColor[1], gridColor[2]};
     state.curveWidthOffset = curveWidthOffset;
     state.highlightedDepth = highlightedDepth;
     state.normalDepth = normalDepth;
     state.gridDepth = gridDepth;
     state.formulaAspect = formulaAspect;
-    state.errorImage = errorImage;
-    state.checkedImage = checkedImage;
-    state.uncheckedImage = uncheckedImage;
     state.formulaImages = formulaImages;
-    state.indexLabels = indexLabels;
     return state;
 }
 

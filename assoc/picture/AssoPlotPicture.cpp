@@ -91,8 +91,7 @@ void AssoFrameBuilder::addBackground(quillon::PlotBackground& background) const
     background.right = 1.5;
     background.bottom = view.yMin;
     background.top = view.yMax;
-    background.strokes.push_back(
-        view.referenceLines(state.needYAxis, state.gridColor, state.gridDepth));
+    background.strokes.push_back(state.referenceLines(state.gridDepth));
     for (int k = 0; k < kAssoOrderCount; ++k) {
         if (state.needFunc[k]) {
             background.strokes.push_back(curve(k));
@@ -128,12 +127,7 @@ void AssoFrameBuilder::addOverlay(std::vector<PlotOverlayItem>& overlay,
     if (state.showXIndices) {
         addXIndices(overlay);
     }
-    if (state.showYIndices) {
-        for (quillon::PlotText& label :
-             quillon::plotValueLabels(view.yMin, view.yMax, view.height)) {
-            overlay.emplace_back(std::move(label));
-        }
-    }
+    state.addValueLabels(overlay);
     if (state.needXAxis) {
         addXAxisLines(overlay);
     }
@@ -144,9 +138,7 @@ void AssoFrameBuilder::addOverlay(std::vector<PlotOverlayItem>& overlay,
     if (state.showErrorMessages) {
         addErrorMessages(overlay);
     }
-    if (state.rubberBand && use == quillon::PictureUse::Screen) {
-        overlay.emplace_back(quillon::PlotOutline{*state.rubberBand, QPen(Qt::black)});
-    }
+    state.addRubberBand(overlay, use);
     if (state.showLabels) {
         addLegend(overlay);
     }
@@ -327,11 +319,9 @@ void AssoFrameBuilder::addNodeMark(std::vector<PlotOverlayItem>& overlay) const
 
 } // namespace
 
-void AssoPlotState::loadImages()
+void AssoPlotState::prepareForPicture()
 {
-    errorImage = quillon::loadImage(QStringLiteral("error.png"));
-    checkedImage = quillon::loadImage(QStringLiteral("c.png"));
-    uncheckedImage = quillon::loadImage(QStringLiteral("u.png"));
+    IndexPlotState::prepareForPicture();
     for (int k = 0; k < kAssoOrderCount; ++k) {
         formulaImages[k] = quillon::loadImage(QStringLiteral("func%1.png").arg(k + 1));
     }
@@ -361,15 +351,7 @@ quillon::PlotPicture describeAssoPlot(const AssoPlotState& state, quillon::Pictu
 AssoPlotState assoStateForSize(const AssoPlotState& state, QSize size)
 {
     AssoPlotState resized = state;
-    const double scaleX = state.view.width > 0 ? double(size.width()) / state.view.width : 1.0;
-    const double scaleY = state.view.height > 0 ? double(size.height()) / state.view.height : 1.0;
-    const QTransform scale = QTransform::fromScale(scaleX, scaleY);
-    resized.pointer = scale.map(state.pointer);
-    if (state.rubberBand) {
-        resized.rubberBand = scale.mapRect(*state.rubberBand);
-    }
-    resized.view.width = size.width();
-    resized.view.height = size.height();
+    resized.layOutFor(size);
     return resized;
 }
 
@@ -381,8 +363,7 @@ quillon::PlotPicture assoFinishedPicture(float r, float x0, int n, const AssoCol
     AssoPlotState state;
     state.results = &sequences;
     state.colours = colours;
-    state.indexLabels = std::make_shared<quillon::IndexLabels>(quillon::plotOverlayFont());
-    state.loadImages();
+    state.prepareForPicture();
     state.view.count = n;
     const int last = std::max(n - 1, 1);
     state.view.window = {0, last, 1, last + 1};

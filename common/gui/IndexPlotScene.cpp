@@ -175,6 +175,24 @@ IndexPlotView IndexPlotScene::plotView() const
     return {window, N, xMin, xMax, yMin, yMax, viewWidth, viewHeight};
 }
 
+void IndexPlotScene::fillIndexPlotState(IndexPlotState& state) const
+{
+    state.view = plotView();
+    state.needXAxis = needXAxis;
+    state.needYAxis = needYAxis;
+    state.showXIndices = showXIndices;
+    state.showYIndices = showYIndices;
+    state.showLabels = showLabels;
+    state.pointer = QPointF(mouse.x(), mouse.y());
+    state.rubberBand = mouse.rubberBand();
+    state.markedNode = markedNode;
+    state.gridColor = {gridColor[0], gridColor[1], gridColor[2]};
+    state.errorImage = errorImage;
+    state.checkedImage = checkedImage;
+    state.uncheckedImage = uncheckedImage;
+    state.indexLabels = indexLabels;
+}
+
 float IndexPlotScene::nodeX(int i) const
 {
     return plotView().nodeX(i);

@@ -5,6 +5,7 @@
 #include "common/gui/PlotAnimationPanel.h"
 #include "common/gui/PlotMouse.h"
 #include "common/picture/IndexLabels.h"
+#include "common/picture/IndexPlotState.h"
 #include "common/picture/IndexPlotView.h"
 #include "common/picture/PlotNodePick.h"
 
@@ -86,6 +87,8 @@ protected:
 
     // The window, the ranges and the view's size as the plot's description takes them.
     IndexPlotView plotView() const;
+    // Fills in what every index plot's frame shows from this scene's fields.
+    void fillIndexPlotState(IndexPlotState& state) const;
     float nodeX(int i) const;
     float nodePixelX(int i) const;
     float valuePixelY(float value) const;

@@ -505,28 +505,15 @@ void SineOpenGLScene::helpEvent(QGraphicsSceneHelpEvent* event)
 SinePlotState SineOpenGLScene::plotState() const
 {
     SinePlotState state;
-    state.view = plotView();
+    fillIndexPlotState(state);
     state.results = &computed;
     state.colours = colours;
     state.needed = needed;
     state.errorComparison = errorComparison;
     state.showBoundary = showBoundary;
     state.showValues = showValues;
-    state.needXAxis = needXAxis;
-    state.needYAxis = needYAxis;
-    state.showXIndices = showXIndices;
-    state.showYIndices = showYIndices;
-    state.showLabels = showLabels;
     state.hovered = hovered;
     state.blink = blink;
-    state.pointer = QPointF(mouse.x(), mouse.y());
-    state.rubberBand = mouse.rubberBand();
-    state.markedNode = markedNode;
-    state.gridColor = {gridColor[0], gridColor[1], gridColor[2]};
-    state.errorImage = errorImage;
-    state.checkedImage = checkedImage;
-    state.uncheckedImage = uncheckedImage;
-    state.indexLabels = indexLabels;
     return state;
 }
 

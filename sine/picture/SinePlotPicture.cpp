@@ -117,7 +117,7 @@ void SineFrameBuilder::addBackground(quillon::PlotBackground& background) const
     background.right = view.xMax;
     background.bottom = view.yMin;
     background.top = view.yMax;
-    background.strokes.push_back(view.referenceLines(state.needYAxis, state.gridColor, kGridDepth));
+    background.strokes.push_back(state.referenceLines(kGridDepth));
     addUnlessEmpty(background.strokes, errorMarkers());
     for (int slot = 1; slot <= kSineApproachCount; ++slot) {
         if (state.needed[slot]) {
@@ -220,16 +220,9 @@ void SineFrameBuilder::addOverlay(std::vector<PlotOverlayItem>& overlay,
     if (state.showXIndices) {
         addXIndices(overlay);
     }
-    if (state.showYIndices) {
-        for (quillon::PlotText& label :
-             quillon::plotValueLabels(view.yMin, view.yMax, view.height)) {
-            overlay.emplace_back(std::move(label));
-        }
-    }
+    state.addValueLabels(overlay);
     addErrorList(overlay);
-    if (state.rubberBand && use == quillon::PictureUse::Screen) {
-        overlay.emplace_back(quillon::PlotOutline{*state.rubberBand, QPen(Qt::black)});
-    }
+    state.addRubberBand(overlay, use);
     if (state.showLabels) {
         addLegend(overlay);
     }
@@ -399,13 +392,7 @@ quillon::PlotPicture describeSinePlot(const SinePlotState& state, QSize viewSize
                                       quillon::PictureUse use)
 {
     SinePlotState laidOut = state;
-    const QTransform scale = state.view.pixelScaleTo(viewSize);
-    laidOut.pointer = scale.map(state.pointer);
-    if (state.rubberBand) {
-        laidOut.rubberBand = scale.mapRect(*state.rubberBand);
-    }
-    laidOut.view.width = viewSize.width();
-    laidOut.view.height = viewSize.height();
+    laidOut.layOutFor(viewSize);
     return {viewSize, sinePlotBackground(laidOut), sinePlotOverlay(laidOut, use)};
 }
 
@@ -417,8 +404,7 @@ quillon::PlotPicture sineFinishedPicture(int degrees, int terms, const SineColor
     SinePlotState state;
     state.results = &results;
     state.colours = colours;
-    state.indexLabels = std::make_shared<quillon::IndexLabels>(quillon::plotOverlayFont());
-    state.loadImages();
+    state.prepareForPicture();
     state.view.count = terms;
     // A window needs two ends apart: a run of one term still spans indices 0 and 1.
     const int last = std::max(terms - 1, 1);

@@ -65,8 +65,8 @@ void AssoPlotPictureTest::init()
     computeSequences(3.0f, 0.5f, 300, sequences);
     state = AssoPlotState();
     state.results = &sequences;
+    state.prepareForPicture();
     state.indexLabels = labels;
-    state.loadImages();
     state.view.window = {0, 20, 1, 21};
     state.view.yMin = -0.25f;
     state.view.yMax = 1.75f;

@@ -123,8 +123,7 @@ void SinePlotPictureTest::init()
 
     state = SinePlotState();
     state.results = &results;
-    state.indexLabels = std::make_shared<quillon::IndexLabels>(quillon::plotOverlayFont());
-    state.loadImages();
+    state.prepareForPicture();
     state.view.count = 6;
     state.view.window = {0, 4, 1, 5};
     state.view.yMin = -2.5f;
