@@ -4,10 +4,10 @@
 #include "app/MainWindow.h"
 #include "assoc/engine/AssoFiles.h"
 #include "assoc/picture/AssoPlotPicture.h"
+#include "bench/HeaviestSineView.h"
 #include "common/picture/PictureFile.h"
 #include "sine/gui/SineOpenGLScene.h"
 
-#include <QLineEdit>
 #include <benchmark/benchmark.h>
 
 namespace
@@ -30,18 +30,7 @@ void exportPicture(benchmark::State& state, const quillon::PictureDescriber& des
 void BM_ExportHeaviestSine(benchmark::State& state)
 {
     MainWindow window;
-    auto* scene = window.findChild<SineOpenGLScene*>();
-    scene->setSceneRect(QRectF(QPointF(0, 0), QSizeF(quillon::kDefaultPlotViewSize)));
-    window.findChild<QLineEdit*>(QStringLiteral("sine_iteration_input"))
-        ->setText(QStringLiteral("10000"));
-    scene->updateMaxItera();
-    scene->setEndpoint(9999);
-    scene->setStepsize(1);
-    scene->allchoose();
-    scene->setNeedXAxis(true);
-    scene->setNeedYAxis(true);
-    scene->need2ShowYIndices(true);
-    scene->setTimeStartpoint(0);
+    SineOpenGLScene* scene = showHeaviestSineView(window);
     exportPicture(state,
                   [scene](QSize size) { return scene->picture(size, quillon::PictureUse::File); });
 }

@@ -2,11 +2,11 @@
 // background and painter foreground) for the default view and for the heaviest view a user
 // can reach.
 #include "app/MainWindow.h"
+#include "bench/HeaviestSineView.h"
 #include "bench/PlotTarget.h"
 #include "sine/engine/SineApproaches.h"
 #include "sine/gui/SineOpenGLScene.h"
 
-#include <QLineEdit>
 #include <benchmark/benchmark.h>
 
 namespace
@@ -42,22 +42,10 @@ void BM_PaintDefaultFrame(benchmark::State& state)
 }
 BENCHMARK(BM_PaintDefaultFrame)->Unit(benchmark::kMillisecond);
 
-// N = 10000, window 0..9999 at step 1, all twelve approaches with trend lines, drop lines,
-// every label and the legend.
 void BM_PaintHeaviestFrame(benchmark::State& state)
 {
     MainWindow window;
-    SineOpenGLScene* scene = sineSceneOf(window);
-    window.findChild<QLineEdit*>(QStringLiteral("sine_iteration_input"))
-        ->setText(QStringLiteral("10000"));
-    scene->updateMaxItera();
-    scene->setEndpoint(9999);
-    scene->setStepsize(1);
-    scene->allchoose();
-    scene->setNeedXAxis(true);
-    scene->setNeedYAxis(true);
-    scene->need2ShowYIndices(true);
-    scene->setTimeStartpoint(0);
+    SineOpenGLScene* scene = showHeaviestSineView(window);
     PlotTarget target(kPlotViewSize);
     for (auto _ : state) {
         target.paint(*scene);

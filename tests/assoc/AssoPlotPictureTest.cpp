@@ -3,6 +3,7 @@
 #include "common/picture/IndexLabels.h"
 #include "common/picture/PictureFile.h"
 #include "common/picture/PlotStyle.h"
+#include "tests/support/PlotPictureItems.h"
 
 #include <QFontMetrics>
 #include <QImage>
@@ -45,17 +46,6 @@ float slidInX(int n)
     const float w = 3.0f / 20.0f;
     const float product = w * float(n);
     return product + -1.5f;
-}
-
-template <typename Item> std::vector<Item> itemsOf(const quillon::PlotPicture& picture)
-{
-    std::vector<Item> items;
-    for (const quillon::PlotOverlayItem& item : picture.overlay) {
-        if (const Item* found = std::get_if<Item>(&item)) {
-            items.push_back(*found);
-        }
-    }
-    return items;
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "pentagon/picture/PentagonPlotPicture.h"
 #include "common/picture/PictureFile.h"
+#include "tests/support/PlotPictureItems.h"
 
 #include <QFontMetrics>
 #include <QFontMetricsF>
@@ -91,17 +92,6 @@ QList<PlotRgb> segmentColours(const PlotStroke& stroke)
         colours << stroke.vertices[i].color;
     }
     return colours;
-}
-
-template <typename Item> QList<Item> itemsOf(const quillon::PlotPicture& picture)
-{
-    QList<Item> items;
-    for (const quillon::PlotOverlayItem& item : picture.overlay) {
-        if (const Item* wanted = std::get_if<Item>(&item)) {
-            items << *wanted;
-        }
-    }
-    return items;
 }
 
 QStringList svgTexts(const QByteArray& svg, QString* error)
@@ -281,8 +271,8 @@ void PentagonPlotPictureTest::labelsAndGridLinesFollowTheRange()
     state.showYAxis = true;
     const quillon::PlotPicture picture =
         describePentagonPlot(state, kView, quillon::PictureUse::File);
-    const QList<quillon::PlotText> texts = itemsOf<quillon::PlotText>(picture);
-    const QList<quillon::PlotLines> lines = itemsOf<quillon::PlotLines>(picture);
+    const auto texts = itemsOf<quillon::PlotText>(picture);
+    const auto lines = itemsOf<quillon::PlotLines>(picture);
     QCOMPARE(picture.overlay.size(), size_t(21 + 21 + 2));
     QCOMPARE(texts.size(), 42);
     QCOMPARE(lines.size(), 2);
@@ -379,7 +369,7 @@ void PentagonPlotPictureTest::failedStepShowsItsMessageCentred()
     state.lastStatus = StatusParallel;
     const quillon::PlotPicture picture =
         describePentagonPlot(state, kView, quillon::PictureUse::File);
-    const QList<quillon::PlotText> texts = itemsOf<quillon::PlotText>(picture);
+    const auto texts = itemsOf<quillon::PlotText>(picture);
     QCOMPARE(texts.size(), 1);
     const quillon::PlotText& message = texts.front();
     QCOMPARE(message.text, QStringLiteral("Error! Two lines are parallel! "));

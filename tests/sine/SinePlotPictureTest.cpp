@@ -3,6 +3,7 @@
 #include "common/picture/PictureFile.h"
 #include "common/picture/PlotStyle.h"
 #include "sine/engine/SineEngine.h"
+#include "tests/support/PlotPictureItems.h"
 
 #include <QFontMetrics>
 #include <QImage>
@@ -47,17 +48,6 @@ constexpr int kDefaultColours[13][3] = {
     {0, 0, 0},     {255, 192, 203}, {255, 20, 147}, {199, 21, 133}, {139, 0, 0},
     {255, 0, 0},   {255, 69, 0},    {255, 215, 0},  {128, 128, 0},  {0, 255, 0},
     {0, 255, 255}, {0, 0, 128},     {106, 90, 205}};
-
-template <typename Item> std::vector<Item> itemsOf(const quillon::PlotPicture& picture)
-{
-    std::vector<Item> items;
-    for (const quillon::PlotOverlayItem& item : picture.overlay) {
-        if (const Item* found = std::get_if<Item>(&item)) {
-            items.push_back(*found);
-        }
-    }
-    return items;
-}
 
 bool sameColour(const quillon::PlotRgb& rgb, int slot)
 {
