@@ -1,5 +1,6 @@
 #include "app/MainWindow.h"
 
+#include "app/AnimationKeys.h"
 #include "app/GraphicsView.h"
 #include "app/PickGestures.h"
 #include "app/PictureExportDialog.h"
@@ -66,6 +67,7 @@ MainWindow::MainWindow(QWidget* parent)
     setUpAssoTab();
     setUpSineTab();
     setUpInspector();
+    setUpAnimationKeys();
 
     connect(ui->tabWidget, &QTabWidget::currentChanged, this, &MainWindow::tab_Index_Changed);
     tab_Index_Changed(RootsTab);
@@ -316,6 +318,24 @@ void MainWindow::setUpInspector()
     auto* inspector = new InspectorWindow();
     installAuxiliaryWindow(AuxWindow::Inspector, inspector);
     new PickGestures(inspector, *rootsPage, assoScene, sineScene, pentagonScene, this);
+}
+
+// Space, "+" and "-" press the animation buttons of the tab shown. The pentagon's animation
+// has no pause and no speed buttons: its start button ("Start", then "Restart") starts it
+// again, and only while the animated example is chosen; in the other modes that button
+// resets the history instead, which is no key's business. The Roots tab has no animation.
+void MainWindow::setUpAnimationKeys()
+{
+    PentagonOpenGLScene* pentagon = pentagonScene;
+    std::array<AnimationButtons, TabCount> buttons;
+    buttons[PentagonTab] = {ui->pentagon_Default, nullptr, nullptr,
+                            [pentagon] { return pentagon->isAnimating(); }};
+    buttons[AssoTab] = {ui->associativelaw_pause,
+                        ui->associativelaw_acceleration,
+                        ui->associativelaw_deceleration,
+                        {}};
+    buttons[SineTab] = {ui->sine_pause, ui->sine_acceleration, ui->sine_deceleration, {}};
+    new AnimationKeys(this, ui->tabWidget, std::move(buttons));
 }
 
 void MainWindow::popInspectorWindow()

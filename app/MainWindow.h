@@ -109,6 +109,7 @@ private:
     void setUpAssoTab();
     void setUpSineTab();
     void setUpInspector();
+    void setUpAnimationKeys();
     void connectSinePanel();
     void enableActionFor(const char* slot);
     // Asks for a file and a size, then writes the picture `describe` gives, laid out from a
