@@ -14,14 +14,6 @@
 #include <QLabel>
 #include <QMouseEvent>
 
-namespace
-{
-
-// How near a node a click must land to pick it, in pixels.
-constexpr float kPickRadius = 10.0f;
-
-} // namespace
-
 PickGestures::PickGestures(InspectorWindow* window, const RootsPage& rootsPage,
                            AssoOpenGLScene* assoScene, SineOpenGLScene* sineScene,
                            PentagonOpenGLScene* pentagonScene, QObject* parent)
@@ -94,17 +86,17 @@ void PickGestures::pickSineNode(QPointF position)
     window->inspect(sineInspection(sineScene->results(), node->curve, node->index));
 }
 
+// The click is the inspector's whenever its window is open: a click that just missed a vertex
+// would otherwise zoom to a rectangle of no size, and the plot would go blank.
 bool PickGestures::pickPentagonVertex(QPointF position)
 {
     if (!window->isVisible()) {
         return false;
     }
-    const auto vertex = pentagonScene->vertexNear(position, kPickRadius);
-    if (!vertex) {
-        return false;
+    if (const auto vertex = pentagonScene->vertexNear(position, kPickRadius)) {
+        pentagonScene->markVertex(vertex);
+        window->inspect(pentagonInspection(pentagonScene->engine(), vertex->curve, vertex->index));
     }
-    pentagonScene->markVertex(vertex);
-    window->inspect(pentagonInspection(pentagonScene->engine(), vertex->curve, vertex->index));
     return true;
 }
 

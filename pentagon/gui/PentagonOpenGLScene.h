@@ -55,8 +55,9 @@ public:
     std::optional<quillon::PlotNode> vertexNear(QPointF position, float radius) const;
     // Rings one vertex (the one the inspector shows); none: no ring.
     void markVertex(std::optional<quillon::PlotNode> vertex);
-    // Offered every left click that did not move: when it returns true the click picked
-    // something and does not zoom.
+    // Offered every left click that did not move: when it returns true the click is the
+    // picker's (it picked something, or a mode that picks is on and a miss is to change
+    // nothing) and does not zoom.
     void setClickPicker(std::function<bool(QPointF)> picker) { clickPicker = std::move(picker); }
 
     const PentagonColorSettings& colors() const { return *colorSettings; }

@@ -184,6 +184,24 @@ quillon::PlotText errorMessage(int status, QSize viewSize)
     return {message, font, QColor(255, 0, 0), QPointF(x, float(viewSize.height()) / 2.0f)};
 }
 
+// A rectangle zoom at a click that does not drag leaves a range with no width and no height
+// (a drag along one edge, one of the two), and such a range shows nothing at all.
+bool rangeIsEmpty(const PentagonRange& range)
+{
+    return range.xMin == range.xMax || range.yMin == range.yMax;
+}
+
+// The way back from an empty range: the right button steps back through the zooms. Above the
+// middle, where a failed step's message never reaches.
+quillon::PlotText zoomBackHint(QSize viewSize)
+{
+    const QFont font = quillon::plotOverlayFont();
+    const QString hint = QStringLiteral("right-click to go back");
+    const QFontMetrics metrics(font);
+    const float x = (float(viewSize.width()) - float(metrics.horizontalAdvance(hint))) / 2.0f;
+    return {hint, font, QColor(Qt::black), QPointF(x, float(viewSize.height()) / 3.0f)};
+}
+
 } // namespace
 
 QPointF pentagonViewPixel(const PentagonRange& range, QSize viewSize, float x, float y)
@@ -236,6 +254,9 @@ std::vector<PlotOverlayItem> pentagonPlotOverlay(const PentagonPlotState& state,
     }
     if (state.lastStatus != StatusOk) {
         overlay.emplace_back(errorMessage(state.lastStatus, viewSize));
+    }
+    if (rangeIsEmpty(state.range)) {
+        overlay.emplace_back(zoomBackHint(viewSize));
     }
     return overlay;
 }

@@ -10,8 +10,8 @@
 #include <vector>
 
 // The Pentagon plot as a plot description: the history's pentagons (or the points being
-// entered) in the plot area; the rubber band, value labels, grid lines, the inspector's ring
-// and the failed step's message over it.
+// entered) in the plot area; the rubber band, value labels, grid lines, the inspector's ring,
+// the failed step's message and, in a range of no size, the way back over it.
 quillon::PlotPicture describePentagonPlot(const PentagonPlotState& state, QSize viewSize,
                                           quillon::PictureUse use);
 

@@ -1,6 +1,7 @@
 #include "inspect/gui/InspectorWindow.h"
 #include "app/GraphicsView.h"
 #include "app/MainWindow.h"
+#include "app/PickGestures.h"
 #include "assoc/gui/AssoOpenGLScene.h"
 #include "common/core/PlotXWindow.h"
 #include "pentagon/gui/PentagonOpenGLScene.h"
@@ -15,8 +16,11 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRandomGenerator>
 #include <QTabWidget>
 #include <QtTest>
+#include <algorithm>
+#include <cmath>
 
 class InspectorWindowTest : public QObject
 {
@@ -32,6 +36,7 @@ private slots:
     void clickingAnAssociativeLawNodeInspectsIt();
     void clickingASineNodeSplitsItsError();
     void clickingAPentagonVertexInspectsBothCoordinates();
+    void missedPentagonClicksChangeNothing();
 
 private:
     InspectorWindow* inspector() const;
@@ -294,6 +299,69 @@ void InspectorWindowTest::clickingAPentagonVertexInspectsBothCoordinates()
     QCOMPARE(reported("y reference"), QStringLiteral("0.4761904707841592654255541685018747363559"));
     // A click that picks does not zoom.
     QCOMPARE(scene->zoomDepth(), 0);
+}
+
+// With the inspector open, ten clicks at seeded random places of the plot, each more than the
+// pick radius from every vertex of the drawn pentagons (the eleven of the animated example),
+// leave the range, the empty zoom stack, the inspection and the frame as they were. A drag
+// still zooms.
+void InspectorWindowTest::missedPentagonClicksChangeNothing()
+{
+    auto* view = qobject_cast<GraphicsView*>(
+        showStoppedPlotTab(*window, 1, "pentagon_VisWindow", "pentagon_timer"));
+    QVERIFY(view != nullptr);
+    auto* scene = qobject_cast<PentagonOpenGLScene*>(view->scene());
+    QVERIFY(popMenuWindow(*window, QStringLiteral("&Tools"), QStringLiteral("&Inspector ..."),
+                          QStringLiteral("Inspector")) != nullptr);
+    // The animated example's ten steps, ticked here with its timer stopped.
+    QTest::mouseClick(window->findChild<QPushButton*>(QStringLiteral("pentagon_Default")),
+                      Qt::LeftButton);
+    for (int tick = 0; tick < 10; ++tick) {
+        scene->runningMan();
+    }
+    const PentagonRange range = scene->range();
+    const QSize size = view->viewport()->size();
+    QList<QPointF> vertices;
+    for (const PentagonPoints& pentagon : scene->engine().getHistory()) {
+        for (int point = 1; point <= 5; ++point) {
+            vertices << QPointF(
+                size.width() * (pentagon.x(point) - range.xMin) / (range.xMax - range.xMin),
+                size.height() * (range.yMax - pentagon.y(point)) / (range.yMax - range.yMin));
+        }
+    }
+    QCOMPARE(vertices.size(), 55);
+    const auto awayFromVertices = [&](QPoint at) {
+        return std::all_of(vertices.begin(), vertices.end(), [&](QPointF vertex) {
+            return std::hypot(at.x() - vertex.x(), at.y() - vertex.y()) > PickGestures::kPickRadius;
+        });
+    };
+    const QString source =
+        inspector()->findChild<QLabel*>(QStringLiteral("inspector_source"))->text();
+    scene->repaint();
+    const QImage before = grabPlotFrame(view);
+    QRandomGenerator random(20261125);
+    for (int clicks = 0; clicks < 10;) {
+        const QPoint at(random.bounded(size.width()), random.bounded(size.height()));
+        if (!awayFromVertices(at)) {
+            continue;
+        }
+        QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
+        QCOMPARE(scene->zoomDepth(), 0);
+        QCOMPARE(scene->range().xMin, range.xMin);
+        QCOMPARE(scene->range().xMax, range.xMax);
+        QCOMPARE(scene->range().yMin, range.yMin);
+        QCOMPARE(scene->range().yMax, range.yMax);
+        ++clicks;
+    }
+    QCOMPARE(inspector()->findChild<QLabel*>(QStringLiteral("inspector_source"))->text(), source);
+    scene->repaint();
+    QCOMPARE(grabPlotFrame(view), before);
+
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, QPoint(0, size.height()));
+    QTest::mouseMove(view->viewport(), QPoint(size.width() / 2, size.height() / 2));
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {},
+                        QPoint(size.width() / 2, size.height() / 2));
+    QCOMPARE(scene->zoomDepth(), 1);
 }
 
 QTEST_MAIN(InspectorWindowTest)

@@ -8,6 +8,7 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 #include <algorithm>
+#include <cmath>
 
 // The Pentagon plot's description, checked against values worked out by hand (or by a short
 // script in single precision following the plot's rules), and its picture files.
@@ -26,6 +27,8 @@ private slots:
     void failedStepShowsItsMessageCentred();
     void finishedPictureDrawsTheWholeHistoryFitted();
     void finishedPictureFilesHoldThePlot();
+    void emptyRangeShowsTheWayBackOnScreenAndInFiles();
+    void noRangeWithWidthAndHeightShowsTheWayBack();
 };
 
 namespace
@@ -469,6 +472,93 @@ void PentagonPlotPictureTest::finishedPictureFilesHoldThePlot()
     QCOMPARE(texts.size(), 1);
     QCOMPARE(texts.front().trimmed(),
              QStringLiteral("Error! New five points can not form a pentagon!"));
+}
+
+namespace
+{
+
+const QString kWayBack = QStringLiteral("right-click to go back");
+
+// The texts of a described frame, in painting order.
+QStringList overlayTexts(const quillon::PlotPicture& picture)
+{
+    QStringList texts;
+    for (const quillon::PlotText& text : itemsOf<quillon::PlotText>(picture)) {
+        texts << text.text;
+    }
+    return texts;
+}
+
+} // namespace
+
+// A click that does not drag zooms to a range with no width and no height (the press corner
+// is the release corner): the view then shows no pentagon, and says, in the overlay font,
+// black, centred across the view on the baseline a third of the way down, how to go back;
+// an exported picture of it says so too. A failed step's message stays, below the hint.
+void PentagonPlotPictureTest::emptyRangeShowsTheWayBackOnScreenAndInFiles()
+{
+    PentagonPlotState state;
+    state.range = {0.5f, 0.5f, 0.25f, 0.25f};
+    for (const quillon::PictureUse use : {quillon::PictureUse::Screen, quillon::PictureUse::File}) {
+        const auto texts = itemsOf<quillon::PlotText>(describePentagonPlot(state, kView, use));
+        QCOMPARE(texts.size(), 1);
+        const quillon::PlotText& hint = texts.front();
+        QCOMPARE(hint.text, kWayBack);
+        QCOMPARE(hint.color, QColor(Qt::black));
+        QCOMPARE(hint.font.family(), QStringLiteral("times"));
+        QCOMPARE(hint.font.pointSize(), 10);
+        QCOMPARE(hint.font.weight(), QFont::Bold);
+        QCOMPARE(hint.baseline.y(), 200.0);
+        const double width = QFontMetrics(hint.font).horizontalAdvance(hint.text);
+        QCOMPARE(hint.baseline.x() + width / 2, 400.0);
+    }
+    // A drag along one edge leaves a range with no width, or no height: as empty.
+    state.range = {0.5f, 0.5f, 0.0f, 1.0f};
+    QCOMPARE(overlayTexts(describePentagonPlot(state, kView, quillon::PictureUse::Screen)),
+             QStringList{kWayBack});
+    state.range = {0.0f, 1.0f, 0.25f, 0.25f};
+    QCOMPARE(overlayTexts(describePentagonPlot(state, kView, quillon::PictureUse::Screen)),
+             QStringList{kWayBack});
+    state.lastStatus = StatusParallel;
+    QCOMPARE(overlayTexts(describePentagonPlot(state, kView, quillon::PictureUse::Screen)),
+             (QStringList{QStringLiteral("Error! Two lines are parallel! "), kWayBack}));
+
+    state.lastStatus = StatusOk;
+    const auto describe = [&](QSize size) {
+        return describePentagonPlot(state, size, quillon::PictureUse::File);
+    };
+    QString error;
+    const QStringList texts = svgTexts(quillon::pictureFileBytes(describe, QSize(1920, 1080),
+                                                                 quillon::kDefaultPlotViewSize,
+                                                                 quillon::PictureFormat::Svg),
+                                       &error);
+    QVERIFY2(error.isEmpty(), qPrintable(error));
+    QCOMPARE(texts.size(), 1);
+    QCOMPARE(texts.front().trimmed(), kWayBack);
+}
+
+// The hint belongs to the empty range alone: not at start-up, not with labels, grid lines, a
+// drag, a ring or a failed step's message, not in a range one float wide and high.
+void PentagonPlotPictureTest::noRangeWithWidthAndHeightShowsTheWayBack()
+{
+    PentagonPlotState state;
+    QVERIFY(!overlayTexts(describePentagonPlot(state, kView, quillon::PictureUse::Screen))
+                 .contains(kWayBack));
+    state.showXIndices = true;
+    state.showYIndices = true;
+    state.showXAxis = true;
+    state.showYAxis = true;
+    state.rubberBand = QRectF(10, 10, 0, 0);
+    state.markedVertex = quillon::PlotNode{0, 1};
+    state.lastStatus = StatusNotPentagon;
+    QVERIFY(!overlayTexts(describePentagonPlot(state, kView, quillon::PictureUse::Screen))
+                 .contains(kWayBack));
+    const float next = std::nextafter(0.5f, 1.0f);
+    state = PentagonPlotState();
+    state.range = {0.5f, next, 0.5f, next};
+    QVERIFY(overlayTexts(describePentagonPlot(state, kView, quillon::PictureUse::File)).isEmpty());
+    QVERIFY(
+        overlayTexts(describePentagonPlot(state, kView, quillon::PictureUse::Screen)).isEmpty());
 }
 
 QTEST_MAIN(PentagonPlotPictureTest)

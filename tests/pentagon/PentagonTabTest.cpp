@@ -109,6 +109,7 @@ private slots:
     void toleranceAfterRegularBuildsTheDefaultShape();
     void timerDrivesTheAnimationEvery400ms();
     void dragZoomsAndRightClickRefits();
+    void clickWithoutDragZoomsToNothingAndSaysHowBack();
     void pictureOfTheViewScalesTheDragAndFilesLeaveItOut();
     void labelsAndGridLines();
     void xGridLinesRunThroughTheMiddleOfTheirLabels();
@@ -575,6 +576,38 @@ void PentagonTabTest::dragZoomsAndRightClickRefits()
 // (100, 80) to the pointer (300, 200), each corner twice as far from the view's corner; a
 // file's picture leaves the drag out. The plot is the one on screen: the Default pentagon's
 // ten segments in the range the view shows.
+// Without the inspector a click that does not drag zooms, as a drag does, to the rectangle
+// from the press to the release: one of no size, the point at fractions x / w across and
+// (h - y) / h up of the fitted range, in single precision. Nothing of the plot is left, and
+// the plot says how to go back until a right click has gone back.
+void PentagonTabTest::clickWithoutDragZoomsToNothingAndSaysHowBack()
+{
+    const QString wayBack = QStringLiteral("right-click to go back");
+    QVERIFY(!paintedTexts().contains(wayBack));
+    const PentagonRange fitted = scene->range();
+    const QSize size = view->viewport()->size();
+    const QPoint at(size.width() / 3, size.height() / 4);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, at);
+    QCOMPARE(scene->zoomDepth(), 1);
+    const float fx = float(at.x()) / float(size.width());
+    const float fy = float(size.height() - at.y()) / float(size.height());
+    const float x = fitted.xMin + (fitted.xMax - fitted.xMin) * fx;
+    const float y = fitted.yMin + (fitted.yMax - fitted.yMin) * fy;
+    for (const float bound : {scene->range().xMin, scene->range().xMax}) {
+        QCOMPARE(bitsOf(bound), bitsOf(x));
+    }
+    for (const float bound : {scene->range().yMin, scene->range().yMax}) {
+        QCOMPARE(bitsOf(bound), bitsOf(y));
+    }
+    QCOMPARE(paintedTexts(), QStringList{wayBack});
+    QVERIFY(!hasColor(plot(), kInitialRed));
+    QTest::mouseClick(view->viewport(), Qt::RightButton, {}, QPoint(10, 10));
+    QCOMPARE(scene->zoomDepth(), 0);
+    QCOMPARE(bitsOf(scene->range().xMax), bitsOf(fitted.xMax));
+    QVERIFY(paintedTexts().isEmpty());
+    QVERIFY(hasColor(plot(), kInitialRed));
+}
+
 void PentagonTabTest::pictureOfTheViewScalesTheDragAndFilesLeaveItOut()
 {
     const QSize doubled = view->viewport()->size() * 2;
