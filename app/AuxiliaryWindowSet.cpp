@@ -7,14 +7,16 @@ const char* popSlotOf(AuxWindow window)
 {
     static const char* const popSlots[] = {
         SLOT(roots_popHelpWindow()),        SLOT(roots_popUserMenu()),
-        SLOT(pentagon_popColorMapWindow()), SLOT(pentagon_popMiniMapWindow()),
-        SLOT(pentagon_popSettingWindow()),  SLOT(pentagon_popHelpWindow()),
-        SLOT(pentagon_popUserMenu()),       SLOT(asso_popColorMapWindow()),
+        SLOT(roots_popOverviewWindow()),    SLOT(pentagon_popColorMapWindow()),
+        SLOT(pentagon_popMiniMapWindow()),  SLOT(pentagon_popSettingWindow()),
+        SLOT(pentagon_popHelpWindow()),     SLOT(pentagon_popUserMenu()),
+        SLOT(pentagon_popOverviewWindow()), SLOT(asso_popColorMapWindow()),
         SLOT(asso_popSelectionWindow()),    SLOT(asso_popSettingWindow()),
         SLOT(asso_popHelpWindow()),         SLOT(asso_popUserMenu()),
-        SLOT(sine_popSelectionWindow()),    SLOT(sine_popStatusWindow()),
-        SLOT(sine_popColorMapWindow()),     SLOT(sine_popSettingWindow()),
-        SLOT(sine_popHelpWindow()),         SLOT(sine_popUserMenu()),
+        SLOT(asso_popOverviewWindow()),     SLOT(sine_popSelectionWindow()),
+        SLOT(sine_popStatusWindow()),       SLOT(sine_popColorMapWindow()),
+        SLOT(sine_popSettingWindow()),      SLOT(sine_popHelpWindow()),
+        SLOT(sine_popUserMenu()),           SLOT(sine_popOverviewWindow()),
         SLOT(popInspectorWindow()),
     };
     static_assert(std::size(popSlots) == static_cast<size_t>(AuxWindow::Count));

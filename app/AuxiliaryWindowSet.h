@@ -5,27 +5,31 @@
 
 class QWidget;
 
-// The eighteen auxiliary windows of the four tabs and the inspector, each opened by one pop
+// The twenty-two auxiliary windows of the four tabs and the inspector, each opened by one pop
 // slot of the main window.
 enum class AuxWindow {
     RootsHelp,
     RootsUserMenu,
+    RootsOverview,
     PentagonColorMap,
     PentagonMiniMap,
     PentagonFocus,
     PentagonHelp,
     PentagonUserMenu,
+    PentagonOverview,
     AssoColorMap,
     AssoSelection,
     AssoFocus,
     AssoHelp,
     AssoUserMenu,
+    AssoOverview,
     SineSelection,
     SineStatus,
     SineColorMap,
     SineFocus,
     SineHelp,
     SineUserMenu,
+    SineOverview,
     Inspector,
     Count
 };

@@ -9,6 +9,7 @@
 #include "assoc/gui/AssoFocusWindow.h"
 #include "assoc/gui/AssoHelpWindow.h"
 #include "assoc/gui/AssoOpenGLScene.h"
+#include "assoc/gui/AssoOverviewWindow.h"
 #include "assoc/gui/AssoSelectionWindow.h"
 #include "assoc/gui/AssoUserMenu.h"
 #include "common/gui/FileRoutines.h"
@@ -19,15 +20,18 @@
 #include "pentagon/gui/PentagonHelpWindow.h"
 #include "pentagon/gui/PentagonMiniMap.h"
 #include "pentagon/gui/PentagonOpenGLScene.h"
+#include "pentagon/gui/PentagonOverviewWindow.h"
 #include "pentagon/gui/PentagonPanel.h"
 #include "pentagon/gui/PentagonUserMenu.h"
 #include "roots/gui/RootsHelpWindow.h"
+#include "roots/gui/RootsOverviewWindow.h"
 #include "roots/gui/RootsPage.h"
 #include "roots/gui/RootsUserMenu.h"
 #include "sine/gui/SineColorMap.h"
 #include "sine/gui/SineFocusWindow.h"
 #include "sine/gui/SineHelpWindow.h"
 #include "sine/gui/SineOpenGLScene.h"
+#include "sine/gui/SineOverviewWindow.h"
 #include "sine/gui/SineSelectionWindow.h"
 #include "sine/gui/SineStatusWindow.h"
 #include "sine/gui/SineUserMenu.h"
@@ -45,6 +49,8 @@ constexpr int kInitialContentWidth = 800;
 constexpr int kInitialContentHeight = 570;
 // The part of the window's height that the menu bar takes.
 constexpr int kMenuBarAllowance = 30;
+// The title of every tab's "What am I looking at?" window.
+const QString kOverviewTitle = QStringLiteral("What am I looking at?");
 
 // A plotting scene's picture of what its view shows, for a file.
 template <typename Scene> quillon::PictureDescriber filePictureOf(const Scene* scene)
@@ -106,6 +112,7 @@ void MainWindow::setUpRootsTab()
     installAuxiliaryWindow(AuxWindow::RootsHelp, new RootsHelpWindow(tr("About")));
     enableActionFor(SLOT(roots_exportPicture()));
     installAuxiliaryWindow(AuxWindow::RootsUserMenu, new RootsUserMenu(tr("Help")));
+    installAuxiliaryWindow(AuxWindow::RootsOverview, new RootsOverviewWindow(kOverviewTitle));
     connect(ui->roots_a_value, &QLineEdit::returnPressed, this, &MainWindow::roots_updateA);
     connect(ui->roots_b_value, &QLineEdit::returnPressed, this, &MainWindow::roots_updateB);
     connect(ui->roots_c_value, &QLineEdit::returnPressed, this, &MainWindow::roots_updateC);
@@ -131,6 +138,7 @@ void MainWindow::setUpPentagonTab()
     installAuxiliaryWindow(AuxWindow::PentagonFocus, focus);
     installAuxiliaryWindow(AuxWindow::PentagonHelp, new PentagonHelpWindow(tr("About")));
     installAuxiliaryWindow(AuxWindow::PentagonUserMenu, new PentagonUserMenu(tr("Help")));
+    installAuxiliaryWindow(AuxWindow::PentagonOverview, new PentagonOverviewWindow(kOverviewTitle));
     pentagonView = attachPlotView(ui->pentagon_VisWindow, pentagonScene);
     connectPentagonPanel();
 
@@ -198,6 +206,7 @@ void MainWindow::setUpAssoTab()
     installAuxiliaryWindow(AuxWindow::AssoSelection, selection);
     installAuxiliaryWindow(AuxWindow::AssoHelp, new AssoHelpWindow(tr("About")));
     installAuxiliaryWindow(AuxWindow::AssoUserMenu, new AssoUserMenu(tr("Help")));
+    installAuxiliaryWindow(AuxWindow::AssoOverview, new AssoOverviewWindow(kOverviewTitle));
     installAuxiliaryWindow(AuxWindow::AssoFocus, focus);
     assoView = attachPlotView(ui->associativelaw_VisWindow, assoScene);
 
@@ -264,6 +273,7 @@ void MainWindow::setUpSineTab()
     installAuxiliaryWindow(AuxWindow::SineUserMenu, new SineUserMenu(tr("Help")));
     connectSinePanel();
     installAuxiliaryWindow(AuxWindow::SineFocus, focus);
+    installSineOverview();
     sineView = attachPlotView(ui->sine_VisWindow, sineScene);
     sineScene->setUpPanel();
 
@@ -285,6 +295,16 @@ void MainWindow::setUpSineTab()
                    [scene](const QString& name) { return scene->saveCsvData(name); });
     enableActionFor(SLOT(sine_exportPicture()));
     sineTimer->start(400);
+}
+
+// The overview quotes the library line's distance from the true sine for the current X, so
+// it is rewritten after each input that sets X (connected after the scene reads the input).
+void MainWindow::installSineOverview()
+{
+    auto* overview = new SineOverviewWindow(kOverviewTitle, sineScene);
+    installAuxiliaryWindow(AuxWindow::SineOverview, overview);
+    connect(ui->sine_X_input, &QLineEdit::returnPressed, overview, &SineOverviewWindow::refresh);
+    connect(ui->sine_calculate, &QPushButton::clicked, overview, &SineOverviewWindow::refresh);
 }
 
 void MainWindow::connectSinePanel()
@@ -341,6 +361,26 @@ void MainWindow::setUpAnimationKeys()
 void MainWindow::popInspectorWindow()
 {
     auxiliaryWindows.pop(AuxWindow::Inspector);
+}
+
+void MainWindow::roots_popOverviewWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::RootsOverview);
+}
+
+void MainWindow::pentagon_popOverviewWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::PentagonOverview);
+}
+
+void MainWindow::asso_popOverviewWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::AssoOverview);
+}
+
+void MainWindow::sine_popOverviewWindow()
+{
+    auxiliaryWindows.pop(AuxWindow::SineOverview);
 }
 
 void MainWindow::exportPicture(const quillon::PictureDescriber& describe, QSize viewSize,

@@ -93,6 +93,11 @@ public slots:
     void sine_exportPicture();
     // "&Inspector ...", an addition at the end of every tab's last tool menu.
     void popInspectorWindow();
+    // "&What am I looking at? ...", an addition after each tab's described Help entries.
+    void roots_popOverviewWindow();
+    void pentagon_popOverviewWindow();
+    void asso_popOverviewWindow();
+    void sine_popOverviewWindow();
     // The target of every "&Exit" entry: closes this window and every auxiliary window.
     void closeEvent();
 
@@ -111,6 +116,7 @@ private:
     void setUpInspector();
     void setUpAnimationKeys();
     void connectSinePanel();
+    void installSineOverview();
     void enableActionFor(const char* slot);
     // Asks for a file and a size, then writes the picture `describe` gives, laid out from a
     // view of `referenceSize`; `viewSize` is the size the tab shows it at now.

@@ -141,14 +141,31 @@ std::vector<MenuEntry> withPictureExport(std::vector<MenuEntry> entries, const c
     return entries;
 }
 
+// "&What am I looking at? ...", added after the described entries of the Help menu.
+std::vector<MenuEntry> withOverview(std::vector<MenuEntry> entries, const char* slot)
+{
+    entries.push_back({"&Help", "&What am I looking at? ...",
+                       "What the demonstration shows, its colours and its keys", NoKey, slot});
+    return entries;
+}
+
 } // namespace
 
 const std::vector<MenuEntry>& menuTable(TabIndex tab)
 {
     static const std::vector<MenuEntry> tables[TabCount] = {
-        withInspector(withPictureExport(rootsMenus(), SLOT(roots_exportPicture())), "&Examples"),
-        withInspector(withPictureExport(pentagonMenus(), SLOT(pentagon_exportPicture())), "&Tools"),
-        withInspector(withPictureExport(assoMenus(), SLOT(asso_exportPicture())), "&Tools"),
-        withInspector(withPictureExport(sineMenus(), SLOT(sine_exportPicture())), "&Tools")};
+        withOverview(withInspector(withPictureExport(rootsMenus(), SLOT(roots_exportPicture())),
+                                   "&Examples"),
+                     SLOT(roots_popOverviewWindow())),
+        withOverview(
+            withInspector(withPictureExport(pentagonMenus(), SLOT(pentagon_exportPicture())),
+                          "&Tools"),
+            SLOT(pentagon_popOverviewWindow())),
+        withOverview(
+            withInspector(withPictureExport(assoMenus(), SLOT(asso_exportPicture())), "&Tools"),
+            SLOT(asso_popOverviewWindow())),
+        withOverview(
+            withInspector(withPictureExport(sineMenus(), SLOT(sine_exportPicture())), "&Tools"),
+            SLOT(sine_popOverviewWindow()))};
     return tables[tab];
 }

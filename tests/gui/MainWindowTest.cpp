@@ -4,6 +4,7 @@
 #include "assoc/gui/AssoColorMap.h"
 #include "assoc/gui/AssoFocusWindow.h"
 #include "assoc/gui/AssoHelpWindow.h"
+#include "assoc/gui/AssoOverviewWindow.h"
 #include "assoc/gui/AssoSelectionWindow.h"
 #include "assoc/gui/AssoUserMenu.h"
 #include "common/gui/OpenGLPlotScene.h"
@@ -12,12 +13,15 @@
 #include "pentagon/gui/PentagonFocusWindow.h"
 #include "pentagon/gui/PentagonHelpWindow.h"
 #include "pentagon/gui/PentagonMiniMap.h"
+#include "pentagon/gui/PentagonOverviewWindow.h"
 #include "pentagon/gui/PentagonUserMenu.h"
 #include "roots/gui/RootsHelpWindow.h"
+#include "roots/gui/RootsOverviewWindow.h"
 #include "roots/gui/RootsUserMenu.h"
 #include "sine/gui/SineColorMap.h"
 #include "sine/gui/SineFocusWindow.h"
 #include "sine/gui/SineHelpWindow.h"
+#include "sine/gui/SineOverviewWindow.h"
 #include "sine/gui/SineSelectionWindow.h"
 #include "sine/gui/SineStatusWindow.h"
 #include "sine/gui/SineUserMenu.h"
@@ -143,6 +147,14 @@ QList<Expected> withInspector(QList<Expected> entries, const char* menu)
     return entries;
 }
 
+// "&What am I looking at? ...", added after the described entries of the Help menu.
+QList<Expected> withOverview(QList<Expected> entries)
+{
+    entries.append({"&Help", "&What am I looking at? ...",
+                    "What the demonstration shows, its colours and its keys", None});
+    return entries;
+}
+
 // The menu bar flattened into the same form as the expectations.
 QList<Expected> menuBarEntries(QMainWindow& window, QList<QByteArray>& storage)
 {
@@ -254,6 +266,7 @@ QList<EntryEffect> entryEffects(int tab)
                 shows("&Examples", "&Inspector ...", windowOf<InspectorWindow>()),
                 shows("&Help", "&About ...", windowOf<RootsHelpWindow>()),
                 shows("&Help", "&Help ...", windowOf<RootsUserMenu>()),
+                shows("&Help", "&What am I looking at? ...", windowOf<RootsOverviewWindow>()),
                 kExportPicture,
                 kExit};
     case PentagonTab:
@@ -266,6 +279,7 @@ QList<EntryEffect> entryEffects(int tab)
                 shows("&Tools", "&Inspector ...", windowOf<InspectorWindow>()),
                 shows("&Help", "&About ...", windowOf<PentagonHelpWindow>()),
                 shows("&Help", "&Help ...", windowOf<PentagonUserMenu>()),
+                shows("&Help", "&What am I looking at? ...", windowOf<PentagonOverviewWindow>()),
                 kExportPicture,
                 kExit};
     case AssoTab:
@@ -279,6 +293,7 @@ QList<EntryEffect> entryEffects(int tab)
                 shows("&Tools", "&Inspector ...", windowOf<InspectorWindow>()),
                 shows("&Help", "&About ...", windowOf<AssoHelpWindow>()),
                 shows("&Help", "&Help ...", windowOf<AssoUserMenu>()),
+                shows("&Help", "&What am I looking at? ...", windowOf<AssoOverviewWindow>()),
                 kExportPicture,
                 kExit};
     default:
@@ -293,6 +308,7 @@ QList<EntryEffect> entryEffects(int tab)
                 shows("&Tools", "&Inspector ...", windowOf<InspectorWindow>()),
                 shows("&Help", "&About ...", windowOf<SineHelpWindow>()),
                 shows("&Help", "&Help ...", windowOf<SineUserMenu>()),
+                shows("&Help", "&What am I looking at? ...", windowOf<SineOverviewWindow>()),
                 kExportPicture,
                 kExit};
     }
@@ -382,10 +398,16 @@ void MainWindowTest::menuBarMatchesEachTab_data()
 {
     QTest::addColumn<int>("tab");
     QTest::addColumn<QList<Expected>>("expected");
-    QTest::newRow("Roots") << 0 << withInspector(withPictureExport(kRootsMenus), "&Examples");
-    QTest::newRow("Pentagon") << 1 << withInspector(withPictureExport(kPentagonMenus), "&Tools");
-    QTest::newRow("Associative Law") << 2 << withInspector(withPictureExport(kAssoMenus), "&Tools");
-    QTest::newRow("Sine") << 3 << withInspector(withPictureExport(kSineMenus), "&Tools");
+    QTest::newRow("Roots") << 0
+                           << withOverview(
+                                  withInspector(withPictureExport(kRootsMenus), "&Examples"));
+    QTest::newRow("Pentagon") << 1
+                              << withOverview(
+                                     withInspector(withPictureExport(kPentagonMenus), "&Tools"));
+    QTest::newRow("Associative Law")
+        << 2 << withOverview(withInspector(withPictureExport(kAssoMenus), "&Tools"));
+    QTest::newRow("Sine") << 3
+                          << withOverview(withInspector(withPictureExport(kSineMenus), "&Tools"));
 }
 
 void MainWindowTest::menuBarMatchesEachTab()
