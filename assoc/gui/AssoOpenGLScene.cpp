@@ -449,7 +449,7 @@ AssoPlotState AssoOpenGLScene::plotState() const
 
 quillon::PlotPicture AssoOpenGLScene::picture(QSize viewSize, quillon::PictureUse use) const
 {
-    return describeAssoPlot(assoStateForSize(plotState(), viewSize), use);
+    return describeAssoPlot(plotState(), viewSize, use);
 }
 
 void AssoOpenGLScene::drawBackground(QPainter* painter, const QRectF&)

@@ -342,17 +342,12 @@ std::vector<quillon::PlotOverlayItem> assoPlotOverlay(const AssoPlotState& state
     return overlay;
 }
 
-quillon::PlotPicture describeAssoPlot(const AssoPlotState& state, quillon::PictureUse use)
+quillon::PlotPicture describeAssoPlot(const AssoPlotState& state, QSize viewSize,
+                                      quillon::PictureUse use)
 {
-    return {QSize(state.view.width, state.view.height), assoPlotBackground(state),
-            assoPlotOverlay(state, use)};
-}
-
-AssoPlotState assoStateForSize(const AssoPlotState& state, QSize size)
-{
-    AssoPlotState resized = state;
-    resized.layOutFor(size);
-    return resized;
+    AssoPlotState laidOut = state;
+    laidOut.layOutFor(viewSize);
+    return {viewSize, assoPlotBackground(laidOut), assoPlotOverlay(laidOut, use)};
 }
 
 quillon::PlotPicture assoFinishedPicture(float r, float x0, int n, const AssoColors& colours,
@@ -375,5 +370,5 @@ quillon::PlotPicture assoFinishedPicture(float r, float x0, int n, const AssoCol
     }
     state.view.width = size.width();
     state.view.height = size.height();
-    return describeAssoPlot(state, quillon::PictureUse::File);
+    return describeAssoPlot(state, size, quillon::PictureUse::File);
 }

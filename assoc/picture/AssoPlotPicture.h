@@ -6,20 +6,19 @@
 
 #include <QSize>
 
-// The Associative Law plot as a plot description: the dotted reference lines and the curves
-// (or their differences to the base order) in the plot area; the index labels, value labels,
-// axis lines, error icons and messages, rubber band, legend, spread readout and the
-// inspector's ring over it.
-quillon::PlotPicture describeAssoPlot(const AssoPlotState& state, quillon::PictureUse use);
+// The Associative Law plot as a plot description, laid out for a view of `viewSize`: the
+// dotted reference lines and the curves (or their differences to the base order) in the plot
+// area; the index labels, value labels, axis lines, error icons and messages, rubber band,
+// legend, spread readout and the inspector's ring over it. The state's pointer and rubber band
+// are in pixels of a view of the state's own size and are scaled to `viewSize`.
+quillon::PlotPicture describeAssoPlot(const AssoPlotState& state, QSize viewSize,
+                                      quillon::PictureUse use);
 
-// The two parts of describeAssoPlot, for the screen's two passes.
+// The two parts of the description for a state laid out for its own view, for the screen's
+// two passes.
 quillon::PlotBackground assoPlotBackground(const AssoPlotState& state);
 std::vector<quillon::PlotOverlayItem> assoPlotOverlay(const AssoPlotState& state,
                                                       quillon::PictureUse use);
-
-// The state laid out for a view of `size`: the pointer and the rubber band move with the
-// view's scale.
-AssoPlotState assoStateForSize(const AssoPlotState& state, QSize size);
 
 // What the tab shows for R, X0 and N once its animation has run to the end, with the whole
 // run in the window (iterations 0 to N - 1, all slid in), the Y range fitted to it, every

@@ -40,6 +40,9 @@ private:
 namespace
 {
 
+// The view in the default window.
+const QSize kViewSize(795, 769);
+
 // x(n) for the window 0..20 once slid in: w = fl(3 / 20), x = fl(w * n + (-1.5)).
 float slidInX(int n)
 {
@@ -66,7 +69,8 @@ void AssoPlotPictureTest::init()
 
 void AssoPlotPictureTest::slidInWindowGivesReferenceLinesAndFiveCurves()
 {
-    const quillon::PlotPicture picture = describeAssoPlot(state, quillon::PictureUse::Screen);
+    const quillon::PlotPicture picture =
+        describeAssoPlot(state, kViewSize, quillon::PictureUse::Screen);
     QCOMPARE(picture.size, QSize(795, 769));
     const quillon::PlotBackground& background = picture.background;
     QCOMPARE(background.left, -1.5);
@@ -112,7 +116,8 @@ void AssoPlotPictureTest::slidInWindowGivesReferenceLinesAndFiveCurves()
 
 void AssoPlotPictureTest::overlayHoldsLabelsLegendAndSpread()
 {
-    const quillon::PlotPicture picture = describeAssoPlot(state, quillon::PictureUse::Screen);
+    const quillon::PlotPicture picture =
+        describeAssoPlot(state, kViewSize, quillon::PictureUse::Screen);
     const auto indexLabels = itemsOf<quillon::PlotIndexLabels>(picture);
     QCOMPARE(int(indexLabels.size()), 1);
     QCOMPARE(indexLabels[0].turn, 90.0);
@@ -188,11 +193,13 @@ void AssoPlotPictureTest::comparingDrawsDifferencesToTheBase()
 void AssoPlotPictureTest::aFileLeavesOutTheRubberBand()
 {
     state.rubberBand = QRectF(10, 20, 100, 50);
-    QCOMPARE(
-        itemsOf<quillon::PlotOutline>(describeAssoPlot(state, quillon::PictureUse::Screen)).size(),
-        size_t(1));
+    QCOMPARE(itemsOf<quillon::PlotOutline>(
+                 describeAssoPlot(state, kViewSize, quillon::PictureUse::Screen))
+                 .size(),
+             size_t(1));
     QVERIFY(
-        itemsOf<quillon::PlotOutline>(describeAssoPlot(state, quillon::PictureUse::File)).empty());
+        itemsOf<quillon::PlotOutline>(describeAssoPlot(state, kViewSize, quillon::PictureUse::File))
+            .empty());
 }
 
 void AssoPlotPictureTest::finishedPictureShowsTheWholeRun()
